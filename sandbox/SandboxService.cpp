@@ -1,0 +1,316 @@
+#include "SandboxService.h"
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QString>
+
+#include <charconv>
+#include <regex>
+
+namespace quorva::sandbox {
+
+using http::HttpRequest;
+using http::HttpResponse;
+
+namespace {
+constexpr int kDefaultLimit = 30;
+constexpr int kMaxLimit = 100;
+
+const std::regex kOffersRoute(R"(^/corvel/api/publisher/([^/]+)/profile/([^/]+)/offers\.json$)");
+const std::regex kProfileRoute(R"(^/corvel/api/publisher/([^/]+)/profile/([^/]+)/details\.json$)");
+const std::regex kCategoriesRoute(R"(^/corvel/categories\.json$)");
+const std::regex kTransactionsRoute(R"(^/corvel/api/publisher/([^/]+)/profile/([^/]+)/user/([^/]+)/transactions\.json$)");
+const std::regex kTicketsRoute(R"(^/corvel/api/publisher/([^/]+)/profile/([^/]+)/user/([^/]+)/tickets\.json$)");
+const std::regex kTicketListRoute(R"(^/sandbox/tickets\.json$)");
+const std::regex kPictureRoute(R"(^/img/(\d+)\.png$)");
+const std::regex kClickRoute(R"(^/click/(\d+)$)");
+
+QString q(const std::string &text)
+{
+    return QString::fromStdString(text);
+}
+
+HttpResponse jsonResponse(int status, const QJsonDocument &document)
+{
+    return HttpResponse::json(status, document.toJson(QJsonDocument::Compact).toStdString());
+}
+
+HttpResponse error(int status, const char *message)
+{
+    return jsonResponse(status, QJsonDocument(QJsonObject{{QStringLiteral("error"), QString::fromUtf8(message)}}));
+}
+
+HttpResponse noContent()
+{
+    HttpResponse response;
+    response.status = 204;
+    return response;
+}
+
+std::optional<std::int64_t> integer(const std::string &text)
+{
+    std::int64_t value = 0;
+    const auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (ec != std::errc() || end != text.data() + text.size())
+        return std::nullopt;
+    return value;
+}
+
+// Pictures are served by this same server; their addresses are scheme-relative.
+std::string pictureAddress(const HttpRequest &request, std::int64_t offerId)
+{
+    return "//" + request.header("host") + "/img/" + std::to_string(offerId) + ".png";
+}
+} // namespace
+
+SandboxService::SandboxService(SandboxStore &store, FaultOptions faults,
+                               std::function<void(const std::string &)> log)
+    : m_store(store), m_faults(std::move(faults)), m_log(std::move(log))
+{
+}
+
+HttpResponse SandboxService::handle(const HttpRequest &request)
+{
+    HttpResponse response;
+    try {
+        response = route(request);
+    } catch (const std::exception &e) {
+        response = error(500, e.what());
+    }
+    applyFaults(request, response);
+    if (m_log) {
+        std::string line = request.method + " " + request.target + " -> " + std::to_string(response.status)
+            + (request.tls ? " (https)" : " (http)");
+        if (response.fault == HttpResponse::Fault::DropConnection)
+            line += " [dropped]";
+        m_log(line);
+    }
+    return response;
+}
+
+void SandboxService::applyFaults(const HttpRequest &request, HttpResponse &response)
+{
+    if (!m_faults.pathFilter.empty() && request.path.find(m_faults.pathFilter) == std::string::npos)
+        return;
+    ++m_matchingRequests;
+    response.delay = m_faults.latency;
+    if (m_faults.dropConnections || (m_faults.dropEvery > 0 && m_matchingRequests % m_faults.dropEvery == 0)) {
+        response.fault = HttpResponse::Fault::DropConnection;
+        return;
+    }
+    if (m_faults.forcedStatus) {
+        response.status = *m_faults.forcedStatus;
+        response.contentType = "application/json";
+        response.body = response.status == 204 ? std::string() : R"({"error":"forced status"})";
+    }
+    if (m_faults.body == FaultOptions::Body::NotJson) {
+        response.contentType = "text/html";
+        response.body = "<html><body>Service temporarily unavailable</body></html>";
+    } else if (m_faults.body == FaultOptions::Body::Truncated) {
+        response.fault = HttpResponse::Fault::TruncateBody;
+    }
+}
+
+HttpResponse SandboxService::route(const HttpRequest &request)
+{
+    std::smatch m;
+    const std::string &path = request.path;
+    const bool get = request.method == "GET";
+    if (std::regex_match(path, m, kOffersRoute))
+        return get ? offers(request, m[1], m[2]) : error(405, "use GET");
+    if (std::regex_match(path, m, kProfileRoute))
+        return get ? profile(m[1], m[2]) : error(405, "use GET");
+    if (std::regex_match(path, m, kCategoriesRoute))
+        return get ? categories() : error(405, "use GET");
+    if (std::regex_match(path, m, kTransactionsRoute))
+        return get ? transactions(m[1], m[2], m[3]) : error(405, "use GET");
+    if (std::regex_match(path, m, kTicketsRoute))
+        return request.method == "POST" ? createTicket(request, m[1], m[2], m[3]) : error(405, "use POST");
+    if (std::regex_match(path, m, kTicketListRoute))
+        return listTickets();
+    if (std::regex_match(path, m, kPictureRoute))
+        return picture(*integer(m[1]));
+    if (std::regex_match(path, m, kClickRoute))
+        return clickPage(*integer(m[1]));
+    return error(404, "no such endpoint");
+}
+
+HttpResponse SandboxService::offers(const HttpRequest &request, const std::string &pub, const std::string &wall)
+{
+    if (!m_store.publisherExists(pub))
+        return error(404, "unknown publisher");
+    const auto profileRow = m_store.profile(pub, wall);
+    if (!profileRow)
+        return error(404, "unknown profile");
+    const auto items = request.queryItems();
+    auto item = [&items](const char *key) -> std::optional<std::string> {
+        const auto it = items.find(key);
+        return it == items.end() ? std::nullopt : std::optional(it->second);
+    };
+    if (!item("subid1") || item("subid1")->empty())
+        return error(400, "subid1 is required");
+
+    OfferQuery query;
+    query.limit = kDefaultLimit;
+    if (const auto limit = item("limit")) {
+        const auto value = integer(*limit);
+        if (!value || *value < 1 || *value > kMaxLimit)
+            return error(400, "limit must be a number from 1 to 100");
+        query.limit = static_cast<int>(*value);
+    }
+    if (const auto offset = item("offset")) {
+        const auto value = integer(*offset);
+        if (!value || *value < 0)
+            return error(400, "offset must be a non-negative number");
+        query.offset = *value;
+    }
+    if (const auto sort = item("sort_by")) {
+        if (!SandboxStore::isKnownSort(*sort))
+            return error(400, "sort_by must be popularity, trending, payout or credit_delay");
+        query.sortBy = *sort;
+    }
+    query.descending = item("sort_order").value_or("desc") != "asc";
+    if (const auto category = item("category_id")) {
+        query.categoryId = integer(*category);
+        if (!query.categoryId)
+            return error(400, "category_id must be a number");
+    }
+    query.featuredOnly = item("featured_only").value_or("0") == "1";
+
+    const std::vector<OfferRow> rows = m_store.offers(*profileRow, query);
+    if (rows.empty())
+        return noContent(); // past the end of the list
+    QJsonArray list;
+    for (const OfferRow &row : rows) {
+        list.append(QJsonObject{
+            {QStringLiteral("offer_id"), QString::number(row.id)},
+            {QStringLiteral("name"), q(row.name)},
+            {QStringLiteral("description"), q(row.description)},
+            {QStringLiteral("currency_count"), static_cast<qint64>(row.payout)},
+            {QStringLiteral("image_url"), q(pictureAddress(request, row.id))},
+            {QStringLiteral("click_url"),
+             q("http://" + request.header("host") + "/click/" + std::to_string(row.id))},
+            {QStringLiteral("category_id"), static_cast<qint64>(row.categoryId)},
+            {QStringLiteral("featured"), row.featured},
+        });
+    }
+    return jsonResponse(200, QJsonDocument(QJsonObject{{QStringLiteral("offers"), list}}));
+}
+
+HttpResponse SandboxService::profile(const std::string &pub, const std::string &wall)
+{
+    const auto row = m_store.profile(pub, wall);
+    if (!row)
+        return error(404, "no such profile for this publisher");
+    const QJsonObject currency{{QStringLiteral("name"), q(row->currencyName)},
+                               {QStringLiteral("visible"), row->currencyVisible}};
+    const QJsonObject profileObject{{QStringLiteral("id"), q(row->corvelId)},
+                                    {QStringLiteral("name"), q(row->profileName)},
+                                    {QStringLiteral("settings"), QJsonObject{{QStringLiteral("currency"), currency}}}};
+    return jsonResponse(200, QJsonDocument(QJsonObject{{QStringLiteral("profile"), profileObject}}));
+}
+
+HttpResponse SandboxService::categories()
+{
+    QJsonArray list;
+    for (const CategoryRow &row : m_store.categories())
+        list.append(QJsonObject{{QStringLiteral("id"), static_cast<qint64>(row.id)}, {QStringLiteral("name"), q(row.name)}});
+    return jsonResponse(200, QJsonDocument(list));
+}
+
+HttpResponse SandboxService::transactions(const std::string &pub, const std::string &wall, const std::string &user)
+{
+    const auto row = m_store.profile(pub, wall);
+    if (!row)
+        return error(404, "no such profile for this publisher");
+    const auto rows = m_store.transactions(*row, user);
+    if (rows.empty())
+        return noContent();
+    QJsonArray list;
+    for (const TransactionRow &t : rows) {
+        list.append(QJsonObject{{QStringLiteral("offer_name"), q(t.offerName)},
+                                {QStringLiteral("timestamp"), q(t.timestamp)},
+                                {QStringLiteral("currency_adjustment"), static_cast<qint64>(t.adjustment)}});
+    }
+    return jsonResponse(200, QJsonDocument(QJsonObject{{QStringLiteral("transactions"), list}}));
+}
+
+HttpResponse SandboxService::createTicket(const HttpRequest &request, const std::string &pub,
+                                          const std::string &wall, const std::string &user)
+{
+    if (!m_store.profile(pub, wall))
+        return error(404, "no such profile for this publisher");
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(request.body), &parseError);
+    if (parseError.error != QJsonParseError::NoError || !document.isObject())
+        return error(400, "the ticket body must be a JSON object");
+    const QJsonObject body = document.object();
+    for (const char *required : {"name", "email", "subject_id"}) {
+        const QJsonValue value = body.value(QLatin1StringView(required));
+        if (!value.isString() || value.toString().trimmed().isEmpty())
+            return error(422, (std::string("missing or empty key: ") + required).c_str());
+    }
+    auto optional = [&body](const char *key) -> std::optional<std::string> {
+        const QJsonValue value = body.value(QLatin1StringView(key));
+        return value.isString() ? std::optional(value.toString().toStdString()) : std::nullopt;
+    };
+    TicketRow ticket;
+    ticket.pubId = pub;
+    ticket.corvelId = wall;
+    ticket.userId = user;
+    ticket.name = body.value(QStringLiteral("name")).toString().toStdString();
+    ticket.email = body.value(QStringLiteral("email")).toString().toStdString();
+    ticket.subjectId = body.value(QStringLiteral("subject_id")).toString().toStdString();
+    ticket.message = optional("message");
+    ticket.offerName = optional("offer_name");
+    ticket.completedAt = optional("completed_at");
+    const std::int64_t id = m_store.insertTicket(ticket);
+    return jsonResponse(201, QJsonDocument(QJsonObject{{QStringLiteral("ticket_id"), static_cast<qint64>(id)}}));
+}
+
+HttpResponse SandboxService::listTickets()
+{
+    QJsonArray list;
+    auto put = [](QJsonObject &o, const char *key, const std::optional<std::string> &value) {
+        if (value)
+            o.insert(QLatin1StringView(key), q(*value));
+    };
+    for (const TicketRow &t : m_store.tickets()) {
+        QJsonObject o{{QStringLiteral("ticket_id"), static_cast<qint64>(t.ticketId)},
+                      {QStringLiteral("pub_id"), q(t.pubId)}, {QStringLiteral("corvel_id"), q(t.corvelId)},
+                      {QStringLiteral("user"), q(t.userId)}, {QStringLiteral("name"), q(t.name)},
+                      {QStringLiteral("email"), q(t.email)}, {QStringLiteral("subject_id"), q(t.subjectId)}};
+        put(o, "message", t.message);
+        put(o, "offer_name", t.offerName);
+        put(o, "completed_at", t.completedAt);
+        list.append(o);
+    }
+    return jsonResponse(200, QJsonDocument(QJsonObject{{QStringLiteral("tickets"), list}}));
+}
+
+HttpResponse SandboxService::picture(std::int64_t offerId)
+{
+    const auto row = m_store.offer(offerId);
+    if (!row)
+        return error(404, "no such picture");
+    HttpResponse response;
+    response.contentType = "image/png";
+    response.headers["cache-control"] = "max-age=86400";
+    response.body = m_pictures.png(offerId, row->name);
+    return response;
+}
+
+HttpResponse SandboxService::clickPage(std::int64_t offerId)
+{
+    const auto row = m_store.offer(offerId);
+    if (!row)
+        return error(404, "no such offer");
+    HttpResponse response;
+    response.contentType = "text/html; charset=utf-8";
+    response.body = "<!doctype html><title>" + row->name + "</title><h1>" + row->name + "</h1><p>"
+        + row->description + "</p><p>This page stands in for the advertiser's landing page.</p>";
+    return response;
+}
+
+} // namespace quorva::sandbox

@@ -1,0 +1,153 @@
+#include "Certificates.h"
+
+#include <openssl/bio.h>
+#include <openssl/evp.h>
+#include <openssl/pem.h>
+#include <openssl/x509.h>
+#include <openssl/x509v3.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <sstream>
+#include <stdexcept>
+
+namespace quorva::http {
+
+namespace {
+constexpr const char *kCaFile = "ca.pem";
+constexpr const char *kServerCertFile = "server-cert.pem";
+constexpr const char *kServerKeyFile = "server-key.pem";
+constexpr long kValiditySeconds = 10L * 365 * 24 * 3600;
+
+template <auto Free>
+struct Deleter { template <typename T> void operator()(T *p) const { Free(p); } };
+using KeyPtr = std::unique_ptr<EVP_PKEY, Deleter<EVP_PKEY_free>>;
+using CertPtr = std::unique_ptr<X509, Deleter<X509_free>>;
+using BioPtr = std::unique_ptr<BIO, Deleter<BIO_free>>;
+
+void check(bool ok, const char *what)
+{
+    if (!ok)
+        throw std::runtime_error(std::string("certificate generation failed: ") + what);
+}
+
+KeyPtr newKey()
+{
+    KeyPtr key(EVP_EC_gen("P-256"));
+    check(key != nullptr, "key");
+    return key;
+}
+
+void addExtension(X509 *cert, X509 *issuer, int nid, const char *value)
+{
+    X509V3_CTX ctx;
+    X509V3_set_ctx_nodb(&ctx);
+    X509V3_set_ctx(&ctx, issuer, cert, nullptr, nullptr, 0);
+    X509_EXTENSION *ext = X509V3_EXT_conf_nid(nullptr, &ctx, nid, value);
+    check(ext != nullptr, "extension");
+    X509_add_ext(cert, ext, -1);
+    X509_EXTENSION_free(ext);
+}
+
+CertPtr newCertificate(EVP_PKEY *key, const char *commonName, long serial, X509 *issuer,
+                       EVP_PKEY *issuerKey, bool isCa)
+{
+    CertPtr cert(X509_new());
+    check(cert != nullptr, "certificate");
+    X509_set_version(cert.get(), 2);
+    ASN1_INTEGER_set(X509_get_serialNumber(cert.get()), serial);
+    X509_gmtime_adj(X509_getm_notBefore(cert.get()), -3600);
+    X509_gmtime_adj(X509_getm_notAfter(cert.get()), kValiditySeconds);
+    X509_set_pubkey(cert.get(), key);
+    X509_NAME *name = X509_get_subject_name(cert.get());
+    X509_NAME_add_entry_by_txt(name, "O", MBSTRING_ASC,
+                               reinterpret_cast<const unsigned char *>("QuorvaMedia Sandbox"), -1, -1, 0);
+    X509_NAME_add_entry_by_txt(name, "CN", MBSTRING_ASC,
+                               reinterpret_cast<const unsigned char *>(commonName), -1, -1, 0);
+    X509 *signer = issuer ? issuer : cert.get();
+    X509_set_issuer_name(cert.get(), X509_get_subject_name(signer));
+    if (isCa) {
+        addExtension(cert.get(), signer, NID_basic_constraints, "critical,CA:TRUE");
+        addExtension(cert.get(), signer, NID_key_usage, "critical,keyCertSign,cRLSign");
+        addExtension(cert.get(), signer, NID_subject_key_identifier, "hash");
+    } else {
+        addExtension(cert.get(), signer, NID_basic_constraints, "critical,CA:FALSE");
+        addExtension(cert.get(), signer, NID_key_usage, "critical,digitalSignature,keyEncipherment");
+        addExtension(cert.get(), signer, NID_ext_key_usage, "serverAuth");
+        addExtension(cert.get(), signer, NID_subject_alt_name,
+                     "DNS:localhost,IP:127.0.0.1,IP:0:0:0:0:0:0:0:1");
+    }
+    check(X509_sign(cert.get(), issuerKey, EVP_sha256()) > 0, "signature");
+    return cert;
+}
+
+std::string pem(X509 *cert)
+{
+    BioPtr bio(BIO_new(BIO_s_mem()));
+    PEM_write_bio_X509(bio.get(), cert);
+    char *data = nullptr;
+    const long size = BIO_get_mem_data(bio.get(), &data);
+    return std::string(data, static_cast<std::size_t>(size));
+}
+
+std::string pem(EVP_PKEY *key)
+{
+    BioPtr bio(BIO_new(BIO_s_mem()));
+    PEM_write_bio_PrivateKey(bio.get(), key, nullptr, nullptr, 0, nullptr, nullptr);
+    char *data = nullptr;
+    const long size = BIO_get_mem_data(bio.get(), &data);
+    return std::string(data, static_cast<std::size_t>(size));
+}
+
+std::string readFile(const std::filesystem::path &path)
+{
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+void writeFile(const std::filesystem::path &path, const std::string &content)
+{
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    out << content;
+    check(out.good(), "write");
+}
+} // namespace
+
+GeneratedCertificates generateLoopbackCertificates()
+{
+    KeyPtr caKey = newKey();
+    CertPtr ca = newCertificate(caKey.get(), "QuorvaMedia Sandbox CA", 1, nullptr, caKey.get(), true);
+    KeyPtr serverKey = newKey();
+    CertPtr server = newCertificate(serverKey.get(), "localhost", 2, ca.get(), caKey.get(), false);
+
+    GeneratedCertificates result;
+    result.caCertificatePem = pem(ca.get());
+    result.server.certificateChainPem = pem(server.get()) + result.caCertificatePem;
+    result.server.privateKeyPem = pem(serverKey.get());
+    return result;
+}
+
+GeneratedCertificates loadOrCreateLoopbackCertificates(const std::string &directory)
+{
+    namespace fs = std::filesystem;
+    const fs::path dir(directory);
+    fs::create_directories(dir);
+    if (fs::exists(dir / kCaFile) && fs::exists(dir / kServerCertFile) && fs::exists(dir / kServerKeyFile)) {
+        GeneratedCertificates loaded;
+        loaded.caCertificatePem = readFile(dir / kCaFile);
+        loaded.server.certificateChainPem = readFile(dir / kServerCertFile);
+        loaded.server.privateKeyPem = readFile(dir / kServerKeyFile);
+        return loaded;
+    }
+    GeneratedCertificates fresh = generateLoopbackCertificates();
+    writeFile(dir / kCaFile, fresh.caCertificatePem);
+    writeFile(dir / kServerCertFile, fresh.server.certificateChainPem);
+    writeFile(dir / kServerKeyFile, fresh.server.privateKeyPem);
+    fs::permissions(dir / kServerKeyFile, fs::perms::owner_read | fs::perms::owner_write);
+    return fresh;
+}
+
+} // namespace quorva::http

@@ -1,0 +1,104 @@
+// quorva-sandbox: a local stand-in for the offer service, for the demo and the tests.
+#include "Certificates.h"
+#include "HttpServer.h"
+#include "SandboxService.h"
+#include "SandboxStore.h"
+
+#include <QtCore/QCommandLineParser>
+#include <QtCore/QDir>
+#include <QtCore/QStandardPaths>
+#include <QtGui/QGuiApplication>
+
+#include <csignal>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+using namespace quorva;
+
+namespace {
+http::HttpServer *g_server = nullptr;
+
+void stopOnSignal(int)
+{
+    if (g_server)
+        g_server->stop();
+}
+
+QString defaultDataDirectory()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/quorva-sandbox");
+}
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // Pictures are drawn with Qt's raster painter; no display is needed.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("quorva-sandbox"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Local stand-in for the QuorvaMedia offer service (HTTP and HTTPS on one port)."));
+    parser.addHelpOption();
+    const QCommandLineOption address(QStringLiteral("address"), QStringLiteral("Address to listen on."), QStringLiteral("ip"), QStringLiteral("127.0.0.1"));
+    const QCommandLineOption port(QStringLiteral("port"), QStringLiteral("Port (0 picks a free one)."), QStringLiteral("port"), QStringLiteral("8443"));
+    const QCommandLineOption dataDir(QStringLiteral("data-dir"), QStringLiteral("Folder of the database and certificates."), QStringLiteral("dir"), defaultDataDirectory());
+    const QCommandLineOption caOut(QStringLiteral("ca-out"), QStringLiteral("Also write the CA certificate to this file."), QStringLiteral("file"));
+    const QCommandLineOption latency(QStringLiteral("latency"), QStringLiteral("Delay every answer by this many milliseconds."), QStringLiteral("ms"), QStringLiteral("0"));
+    const QCommandLineOption drop(QStringLiteral("drop-connections"), QStringLiteral("Close every connection instead of answering."));
+    const QCommandLineOption dropEvery(QStringLiteral("drop-every"), QStringLiteral("Close the connection of every Nth request."), QStringLiteral("n"), QStringLiteral("0"));
+    const QCommandLineOption status(QStringLiteral("force-status"), QStringLiteral("Answer every request with this HTTP status."), QStringLiteral("code"));
+    const QCommandLineOption body(QStringLiteral("broken-body"), QStringLiteral("Break reply bodies: truncated or not-json."), QStringLiteral("kind"));
+    const QCommandLineOption faultPath(QStringLiteral("fault-path"), QStringLiteral("Apply faults only to paths containing this text."), QStringLiteral("text"));
+    const QCommandLineOption quiet(QStringLiteral("quiet"), QStringLiteral("Do not log requests."));
+    parser.addOptions({address, port, dataDir, caOut, latency, drop, dropEvery, status, body, faultPath, quiet});
+    parser.process(app);
+
+    sandbox::FaultOptions faults;
+    faults.latency = std::chrono::milliseconds(parser.value(latency).toInt());
+    faults.dropConnections = parser.isSet(drop);
+    faults.dropEvery = parser.value(dropEvery).toInt();
+    if (parser.isSet(status))
+        faults.forcedStatus = parser.value(status).toInt();
+    if (parser.value(body) == QLatin1String("truncated"))
+        faults.body = sandbox::FaultOptions::Body::Truncated;
+    else if (parser.value(body) == QLatin1String("not-json"))
+        faults.body = sandbox::FaultOptions::Body::NotJson;
+    else if (parser.isSet(body)) {
+        std::cerr << "quorva-sandbox: --broken-body takes truncated or not-json\n";
+        return 2;
+    }
+    faults.pathFilter = parser.value(faultPath).toStdString();
+
+    try {
+        const std::string directory = QDir(parser.value(dataDir)).absolutePath().toStdString();
+        const http::GeneratedCertificates certificates = http::loadOrCreateLoopbackCertificates(directory);
+        if (parser.isSet(caOut)) {
+            std::ofstream(parser.value(caOut).toStdString(), std::ios::trunc) << certificates.caCertificatePem;
+        }
+        sandbox::SandboxStore store(directory + "/sandbox.sqlite");
+        const bool logRequests = !parser.isSet(quiet);
+        sandbox::SandboxService service(store, faults, [logRequests](const std::string &line) {
+            if (logRequests)
+                std::cout << line << std::endl;
+        });
+        http::HttpServer server([&service](const http::HttpRequest &r) { return service.handle(r); },
+                                certificates.server);
+        const auto bound = server.listen(parser.value(address).toStdString(),
+                                         static_cast<std::uint16_t>(parser.value(port).toUInt()));
+        std::cout << "quorva-sandbox listening on " << parser.value(address).toStdString() << ":" << bound
+                  << std::endl;
+        std::cout << "CA certificate: " << directory << "/ca.pem" << std::endl;
+        g_server = &server;
+        std::signal(SIGINT, stopOnSignal);
+        std::signal(SIGTERM, stopOnSignal);
+        server.run();
+        g_server = nullptr;
+    } catch (const std::exception &e) {
+        std::cerr << "quorva-sandbox: " << e.what() << std::endl;
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QtCore/QString>
+
+// What the host knows about the device's advertising identifier. The identifier is
+// sent as canonical upper-case 8-4-4-4-12 text.
+struct QVAdvertisingInfo
+{
+    QString identifier;
+    bool trackingEnabled = false;
+};

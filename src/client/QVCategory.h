@@ -1,0 +1,28 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
+#include <QtQml/qqmlregistration.h>
+
+// An offer category; categoryId is the text sent as category_id.
+// A plain value type: copies are independent and cheap (implicitly shared strings).
+class QUORVAMEDIA_EXPORT QVCategory
+{
+    Q_GADGET
+    QML_VALUE_TYPE(category)
+    Q_PROPERTY(QString categoryId READ categoryId WRITE setCategoryId FINAL)
+    Q_PROPERTY(QString categoryName READ categoryName WRITE setCategoryName FINAL)
+
+public:
+    QString categoryId() const { return m_categoryId; }
+    void setCategoryId(const QString &value) { m_categoryId = value; }
+    QString categoryName() const { return m_categoryName; }
+    void setCategoryName(const QString &value) { m_categoryName = value; }
+
+    friend bool operator==(const QVCategory &, const QVCategory &) = default;
+
+private:
+    QString m_categoryId;
+    QString m_categoryName;
+};

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
+#include <QtQml/qqmlregistration.h>
+
+// One offer of the wall, as the offers reply describes it.
+// A plain value type: copies are independent and cheap (implicitly shared strings).
+class QUORVAMEDIA_EXPORT QVOffer
+{
+    Q_GADGET
+    QML_VALUE_TYPE(offer)
+    Q_PROPERTY(QString offerId READ offerId WRITE setOfferId FINAL)
+    Q_PROPERTY(QString offerName READ offerName WRITE setOfferName FINAL)
+    Q_PROPERTY(QString offerDescription READ offerDescription WRITE setOfferDescription FINAL)
+    Q_PROPERTY(QString currencyCount READ currencyCount WRITE setCurrencyCount FINAL)
+    Q_PROPERTY(QString imageURL READ imageURL WRITE setImageURL FINAL)
+    Q_PROPERTY(QString clickURL READ clickURL WRITE setClickURL FINAL)
+
+public:
+    QString offerId() const { return m_offerId; }
+    void setOfferId(const QString &value) { m_offerId = value; }
+    QString offerName() const { return m_offerName; }
+    void setOfferName(const QString &value) { m_offerName = value; }
+    QString offerDescription() const { return m_offerDescription; }
+    void setOfferDescription(const QString &value) { m_offerDescription = value; }
+    QString currencyCount() const { return m_currencyCount; }
+    void setCurrencyCount(const QString &value) { m_currencyCount = value; }
+    QString imageURL() const { return m_imageURL; }
+    void setImageURL(const QString &value) { m_imageURL = value; }
+    QString clickURL() const { return m_clickURL; }
+    void setClickURL(const QString &value) { m_clickURL = value; }
+
+    friend bool operator==(const QVOffer &, const QVOffer &) = default;
+
+private:
+    QString m_offerId;
+    QString m_offerName;
+    QString m_offerDescription;
+    QString m_currencyCount;
+    QString m_imageURL;
+    QString m_clickURL;
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
+#include <QtQml/qqmlregistration.h>
+
+// Display settings of an offer-wall profile.
+// A plain value type: copies are independent and cheap (implicitly shared strings).
+class QUORVAMEDIA_EXPORT QVProfile
+{
+    Q_GADGET
+    QML_VALUE_TYPE(profile)
+    Q_PROPERTY(bool showCurrency READ showCurrency WRITE setShowCurrency FINAL)
+    Q_PROPERTY(QString currencyName READ currencyName WRITE setCurrencyName FINAL)
+
+public:
+    bool showCurrency() const { return m_showCurrency; }
+    void setShowCurrency(bool value) { m_showCurrency = value; }
+    QString currencyName() const { return m_currencyName; }
+    void setCurrencyName(const QString &value) { m_currencyName = value; }
+
+    friend bool operator==(const QVProfile &, const QVProfile &) = default;
+
+private:
+    bool m_showCurrency = false;
+    QString m_currencyName;
+};

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
+#include <QtQml/qqmlregistration.h>
+
+// A sort choice: key is the label shown, value is what the service receives.
+// A plain value type: copies are independent and cheap (implicitly shared strings).
+class QUORVAMEDIA_EXPORT QVSort
+{
+    Q_GADGET
+    QML_VALUE_TYPE(sort)
+    Q_PROPERTY(QString key READ key WRITE setKey FINAL)
+    Q_PROPERTY(QString value READ value WRITE setValue FINAL)
+
+public:
+    QVSort() = default;
+    QVSort(const QString &key, const QString &value) : m_key(key), m_value(value) {}
+
+    QString key() const { return m_key; }
+    void setKey(const QString &value) { m_key = value; }
+    QString value() const { return m_value; }
+    void setValue(const QString &value) { m_value = value; }
+
+    friend bool operator==(const QVSort &, const QVSort &) = default;
+
+private:
+    QString m_key;
+    QString m_value;
+};

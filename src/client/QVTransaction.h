@@ -1,0 +1,32 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+#include <QtCore/QMetaType>
+#include <QtCore/QString>
+#include <QtQml/qqmlregistration.h>
+
+// One credited line of the user's history; timestamp is already display text.
+// A plain value type: copies are independent and cheap (implicitly shared strings).
+class QUORVAMEDIA_EXPORT QVTransaction
+{
+    Q_GADGET
+    QML_VALUE_TYPE(transaction)
+    Q_PROPERTY(QString offerName READ offerName WRITE setOfferName FINAL)
+    Q_PROPERTY(QString timestamp READ timestamp WRITE setTimestamp FINAL)
+    Q_PROPERTY(QString currencyAdjustment READ currencyAdjustment WRITE setCurrencyAdjustment FINAL)
+
+public:
+    QString offerName() const { return m_offerName; }
+    void setOfferName(const QString &value) { m_offerName = value; }
+    QString timestamp() const { return m_timestamp; }
+    void setTimestamp(const QString &value) { m_timestamp = value; }
+    QString currencyAdjustment() const { return m_currencyAdjustment; }
+    void setCurrencyAdjustment(const QString &value) { m_currencyAdjustment = value; }
+
+    friend bool operator==(const QVTransaction &, const QVTransaction &) = default;
+
+private:
+    QString m_offerName;
+    QString m_timestamp;
+    QString m_currencyAdjustment;
+};

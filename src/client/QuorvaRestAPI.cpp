@@ -1,0 +1,326 @@
+#include "QuorvaRestAPI.h"
+#include "QuorvaLog.h"
+#include "ReplyParsers.h"
+#include "RequestPipeline.h"
+#include "ServiceTimestamp.h"
+#include "../ui/QVDevice.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtCore/QThread>
+#include <QtCore/QThreadPool>
+#include <QtCore/QUrl>
+#include <QtCore/QUuid>
+#include <QtNetwork/QNetworkAccessManager>
+#include <QtNetwork/QNetworkRequest>
+
+using quorva::detail::RequestPipeline;
+
+namespace {
+constexpr QLatin1StringView kProductionHost("api.quorvamedia.com");
+constexpr QLatin1StringView kZeroAdvertisingId("00000000-0000-0000-0000-000000000000");
+constexpr QLatin1StringView kAbsentText("(null)");
+constexpr QLatin1StringView kUserAgentFormat("%1 Quorva-SDK (iOS/%2)");
+constexpr QLatin1StringView kJsonContentType("application/json");
+constexpr int kPageSize = 30;
+
+constexpr const char *kHttps = "https://";
+constexpr const char *kHttp = "http://";
+constexpr const char *kOffersPath = "/corvel/api/publisher/%1/profile/%2/offers.json";
+constexpr const char *kProfilePath = "/corvel/api/publisher/%1/profile/%2/details.json";
+constexpr const char *kCategoriesPath = "/corvel/categories.json";
+constexpr const char *kHistoryPath = "/corvel/api/publisher/%1/profile/%2/user/%3/transactions.json";
+constexpr const char *kTicketPath = "/corvel/api/publisher/%1/profile/%2/user/%3/tickets.json";
+
+namespace query {
+constexpr QLatin1StringView subid1("subid1");
+constexpr QLatin1StringView limit("limit");
+constexpr QLatin1StringView offset("offset");
+constexpr QLatin1StringView sortOrder("sort_order");
+constexpr QLatin1StringView device("device");
+constexpr QLatin1StringView limitTracking("limit_tracking");
+constexpr QLatin1StringView sortBy("sort_by");
+constexpr QLatin1StringView categoryId("category_id");
+constexpr QLatin1StringView featuredOnly("featured_only");
+constexpr QLatin1StringView ageRangeId("age_range_id");
+constexpr QLatin1StringView gender("gender");
+constexpr QLatin1StringView subid2("subid2");
+constexpr QLatin1StringView subid3("subid3");
+constexpr QLatin1StringView subid4("subid4");
+constexpr QLatin1StringView visibility("visibility");
+constexpr QLatin1StringView descending("desc");
+constexpr QLatin1StringView defaultSort("popularity");
+} // namespace query
+
+namespace body {
+constexpr QLatin1StringView name("name");
+constexpr QLatin1StringView email("email");
+constexpr QLatin1StringView subjectId("subject_id");
+constexpr QLatin1StringView message("message");
+constexpr QLatin1StringView offerName("offer_name");
+constexpr QLatin1StringView completedAt("completed_at");
+} // namespace body
+
+namespace logline {
+constexpr QLatin1StringView unknownProfile("corvelId doesn't exist for the specified pubId");
+constexpr QLatin1StringView noTransactions("No transactions in history");
+constexpr QLatin1StringView ticketParams("params: %1");
+} // namespace logline
+
+constexpr int kStatusCreated = 201;
+constexpr int kStatusNoContent = 204;
+constexpr int kStatusNotFound = 404;
+
+// A parameter value as the service expects it: booleans as 1 or 0, the rest as text.
+QString queryValue(const QVariant &value)
+{
+    if (value.typeId() == QMetaType::Bool)
+        return value.toBool() ? QStringLiteral("1") : QStringLiteral("0");
+    return value.toString();
+}
+
+QString canonicalAdvertisingId(const QString &identifier)
+{
+    const QUuid uuid(identifier);
+    if (uuid.isNull())
+        return identifier.isEmpty() ? QString(kZeroAdvertisingId) : identifier;
+    return uuid.toString(QUuid::WithoutBraces).toUpper();
+}
+
+void insertIfPresent(QVariantMap &map, QLatin1StringView key, const QString &value)
+{
+    if (!value.isNull())
+        map.insert(key, value);
+}
+
+void insertIfPresent(QJsonObject &object, QLatin1StringView key, const QString &value)
+{
+    if (!value.isNull())
+        object.insert(key, value);
+}
+} // namespace
+
+QuorvaRestAPI::QuorvaRestAPI(QObject *parent)
+    : QObject(parent),
+      m_baseAddress(kProductionHost),
+      m_sslConfiguration(QSslConfiguration::defaultConfiguration())
+{
+}
+
+QuorvaRestAPI *QuorvaRestAPI::sharedInstance()
+{
+    // Thread-safe one-time creation; the client lives on the application's thread
+    // whichever thread asks first, because its network manager must.
+    static QuorvaRestAPI *instance = [] {
+        auto *api = new QuorvaRestAPI;
+        if (QCoreApplication *app = QCoreApplication::instance())
+            api->moveToThread(app->thread());
+        return api;
+    }();
+    return instance;
+}
+
+QThreadPool *QuorvaRestAPI::connectionQueue() const
+{
+    static QThreadPool *pool = [] {
+        auto *p = new QThreadPool;
+        p->setExpiryTimeout(30000);
+        return p;
+    }();
+    return pool;
+}
+
+void QuorvaRestAPI::setServiceBaseAddress(const QString &hostAndOptionalPort)
+{
+    m_baseAddress = hostAndOptionalPort;
+}
+
+void QuorvaRestAPI::addCaCertificates(const QList<QSslCertificate> &certificates)
+{
+    m_sslConfiguration.addCaCertificates(certificates);
+}
+
+void QuorvaRestAPI::setAdvertisingInfoProvider(AdvertisingInfoProvider provider)
+{
+    m_advertisingInfoProvider = std::move(provider);
+}
+
+QNetworkAccessManager *QuorvaRestAPI::networkAccessManager()
+{
+    Q_ASSERT(QThread::currentThread() == thread());
+    if (!m_network)
+        m_network = new QNetworkAccessManager(this);
+    return m_network;
+}
+
+QVAdvertisingInfo QuorvaRestAPI::advertisingInfo() const
+{
+    QVAdvertisingInfo info;
+    if (m_advertisingInfoProvider)
+        info = m_advertisingInfoProvider();
+    info.identifier = canonicalAdvertisingId(info.identifier);
+    return info;
+}
+
+QString QuorvaRestAPI::urlString(const QString &base, const std::optional<QVariantMap> &params) const
+{
+    if (!params)
+        return base;
+    // Deliberately unescaped: the service receives the values exactly as given.
+    QString address = base + QLatin1Char('?');
+    bool first = true;
+    for (auto it = params->cbegin(); it != params->cend(); ++it) {
+        if (!first)
+            address += QLatin1Char('&');
+        address += it.key() + QLatin1Char('=') + queryValue(it.value());
+        first = false;
+    }
+    return address;
+}
+
+QString QuorvaRestAPI::customUserAgent()
+{
+    // Only present values are cached, so a name the host sets later is still picked up.
+    if (m_cachedApplicationName.isEmpty())
+        m_cachedApplicationName = QCoreApplication::applicationName();
+    if (m_cachedDeviceModel.isEmpty())
+        m_cachedDeviceModel = QVDevice::model();
+    const QString name = m_cachedApplicationName.isEmpty() ? QString(kAbsentText) : m_cachedApplicationName;
+    const QString model = m_cachedDeviceModel.isEmpty() ? QString(kAbsentText) : m_cachedDeviceModel;
+    return QString(kUserAgentFormat).arg(name, model);
+}
+
+QString QuorvaRestAPI::dateStringFromString(const QString &timestamp) const
+{
+    return quorva::detail::displayTimestamp(timestamp);
+}
+
+QString QuorvaRestAPI::addressFor(const char *scheme, const QString &path) const
+{
+    return QLatin1StringView(scheme) + m_baseAddress + path;
+}
+
+QString QuorvaRestAPI::profilePath(const char *pathFormat) const
+{
+    return QString::fromLatin1(pathFormat).arg(m_pubId, m_corvelId, m_subId1);
+}
+
+QNetworkRequest QuorvaRestAPI::requestFor(const QString &address)
+{
+    // Strict parsing: an address the host made invalid (a blank in a sub-identifier)
+    // must fail rather than be silently repaired.
+    QNetworkRequest request(QUrl(address, QUrl::StrictMode));
+    request.setHeader(QNetworkRequest::UserAgentHeader, customUserAgent());
+    request.setSslConfiguration(m_sslConfiguration);
+    return request;
+}
+
+void QuorvaRestAPI::fetchOffers(quint64 offset, const QString &sortby, const QString &category,
+                                bool featured, OffersCallback callback, FailureCallback failure)
+{
+    Q_ASSERT_X(!m_subId1.isNull(), "fetchOffers", "subId1 must be set before requesting offers");
+    const QVAdvertisingInfo advertising = advertisingInfo();
+    QVariantMap params{
+        {query::subid1, m_subId1},
+        {query::limit, QString::number(kPageSize)},
+        {query::offset, QString::number(offset)},
+        {query::sortOrder, QString(query::descending)},
+        {query::device, advertising.identifier},
+        // The service reads this flag as "tracking allowed", despite its name.
+        {query::limitTracking, advertising.trackingEnabled},
+        {query::sortBy, sortby.isNull() ? QString(query::defaultSort) : sortby},
+    };
+    insertIfPresent(params, query::categoryId, category);
+    if (featured)
+        params.insert(query::featuredOnly, QStringLiteral("1"));
+    insertIfPresent(params, query::ageRangeId, m_ageRange);
+    insertIfPresent(params, query::gender, m_gender);
+    insertIfPresent(params, query::subid2, m_subId2);
+    insertIfPresent(params, query::subid3, m_subId3);
+    insertIfPresent(params, query::subid4, m_subId4);
+
+    const QString address = urlString(addressFor(kHttps, profilePath(kOffersPath)), params);
+    RequestPipeline::send<QList<QVOffer>>(
+        networkAccessManager(), connectionQueue(), requestFor(address), "GET", {},
+        &quorva::detail::parseOffers,
+        [callback = std::move(callback)](int status, const QList<QVOffer> &offers) {
+            callback(offers, status != kStatusNoContent);
+        },
+        std::move(failure));
+}
+
+void QuorvaRestAPI::fetchProfile(ProfileCallback callback, FailureCallback failure)
+{
+    // The profile details are served over plain http.
+    const QString address = urlString(addressFor(kHttp, profilePath(kProfilePath)), std::nullopt);
+    RequestPipeline::send<QVProfile>(
+        networkAccessManager(), connectionQueue(), requestFor(address), "GET", {},
+        &quorva::detail::parseProfile,
+        [callback = std::move(callback)](int status, const QVProfile &profile) {
+            if (status == kStatusNotFound) {
+                // Neither callback runs: the caller keeps its current display.
+                qCInfo(lcQuorva).noquote() << logline::unknownProfile;
+                return;
+            }
+            callback(profile);
+        },
+        std::move(failure));
+}
+
+void QuorvaRestAPI::fetchCategories(CategoriesCallback callback, FailureCallback failure)
+{
+    const QString address = urlString(addressFor(kHttps, QString::fromLatin1(kCategoriesPath)),
+                                      QVariantMap{{query::visibility, QStringLiteral("1")}});
+    RequestPipeline::send<QList<QVCategory>>(
+        networkAccessManager(), connectionQueue(), requestFor(address), "GET", {},
+        &quorva::detail::parseCategories,
+        [callback = std::move(callback)](int, const QList<QVCategory> &categories) {
+            callback(categories);
+        },
+        std::move(failure));
+}
+
+void QuorvaRestAPI::fetchHistory(HistoryCallback callback, FailureCallback failure)
+{
+    const QString address = urlString(addressFor(kHttps, profilePath(kHistoryPath)), std::nullopt);
+    RequestPipeline::send<QList<QVTransaction>>(
+        networkAccessManager(), connectionQueue(), requestFor(address), "GET", {},
+        &quorva::detail::parseTransactions,
+        [callback = std::move(callback)](int status, const QList<QVTransaction> &transactions) {
+            if (status == kStatusNoContent)
+                qCInfo(lcQuorva).noquote() << logline::noTransactions;
+            callback(transactions);
+        },
+        std::move(failure));
+}
+
+void QuorvaRestAPI::createSupportTicket(const QString &name, const QString &emailId,
+                                        const QString &subject, const QString &message,
+                                        const QString &offerName, const QString &completedAt,
+                                        TicketCallback callback, FailureCallback failure)
+{
+    Q_ASSERT_X(!name.isNull() && !emailId.isNull() && !subject.isNull(), "createSupportTicket",
+               "name, e-mail address and subject are required");
+    QJsonObject ticket{{body::name, name}, {body::email, emailId}, {body::subjectId, subject}};
+    insertIfPresent(ticket, body::offerName, offerName);
+    insertIfPresent(ticket, body::completedAt, completedAt);
+    insertIfPresent(ticket, body::message, message);
+    const QByteArray payload = QJsonDocument(ticket).toJson(QJsonDocument::Indented);
+    qCInfo(lcQuorva).noquote()
+        << QString(logline::ticketParams)
+               .arg(QString::fromUtf8(QJsonDocument(ticket).toJson(QJsonDocument::Compact)));
+
+    QNetworkRequest request = requestFor(addressFor(kHttps, profilePath(kTicketPath)));
+    request.setHeader(QNetworkRequest::ContentTypeHeader, QString(kJsonContentType));
+    RequestPipeline::send<QVariant>(
+        networkAccessManager(), connectionQueue(), request, "POST", payload,
+        &quorva::detail::parseTicketId,
+        [callback = std::move(callback), failure](int status, const QVariant &ticketId) {
+            if (status == kStatusCreated)
+                callback(ticketId);
+            else
+                failure();
+        },
+        failure);
+}

@@ -1,0 +1,113 @@
+#include "ReplyParsers.h"
+#include "JsonValues.h"
+#include "ServiceTimestamp.h"
+
+#include <QtCore/QJsonDocument>
+
+namespace quorva::detail {
+
+namespace {
+namespace key {
+constexpr QLatin1StringView offers("offers");
+constexpr QLatin1StringView offerId("offer_id");
+constexpr QLatin1StringView name("name");
+constexpr QLatin1StringView description("description");
+constexpr QLatin1StringView currencyCount("currency_count");
+constexpr QLatin1StringView imageUrl("image_url");
+constexpr QLatin1StringView clickUrl("click_url");
+constexpr QLatin1StringView profile("profile");
+constexpr QLatin1StringView settings("settings");
+constexpr QLatin1StringView currency("currency");
+constexpr QLatin1StringView visible("visible");
+constexpr QLatin1StringView id("id");
+constexpr QLatin1StringView transactions("transactions");
+constexpr QLatin1StringView offerName("offer_name");
+constexpr QLatin1StringView timestamp("timestamp");
+constexpr QLatin1StringView currencyAdjustment("currency_adjustment");
+constexpr QLatin1StringView ticketId("ticket_id");
+} // namespace key
+
+// The service sends scheme-relative picture addresses; a missing one still yields an
+// address (that loads nothing), as the wall expects one per offer.
+constexpr QLatin1StringView kImageScheme("https:");
+constexpr QLatin1StringView kAbsentText("(null)");
+
+QJsonValue topLevel(const QByteArray &body)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(body);
+    if (document.isObject())
+        return document.object();
+    if (document.isArray())
+        return document.array();
+    return {};
+}
+
+// Elements of a list that are not objects are skipped rather than read as empty records.
+template <typename Record, typename Build>
+QList<Record> records(const QJsonArray &list, Build build)
+{
+    QList<Record> result;
+    result.reserve(list.size());
+    for (const QJsonValue &element : list) {
+        if (element.isObject())
+            result.append(build(element.toObject()));
+    }
+    return result;
+}
+} // namespace
+
+QList<QVOffer> parseOffers(const QByteArray &body)
+{
+    const QJsonArray list = json::array(json::object(topLevel(body)).value(key::offers));
+    return records<QVOffer>(list, [](const QJsonObject &o) {
+        QVOffer offer;
+        offer.setOfferId(json::stringOrNumberText(o.value(key::offerId)));
+        offer.setOfferName(json::string(o.value(key::name)));
+        offer.setOfferDescription(json::string(o.value(key::description)));
+        const QString image = json::string(o.value(key::imageUrl));
+        offer.setImageURL(kImageScheme + (image.isNull() ? QString(kAbsentText) : image));
+        offer.setClickURL(json::string(o.value(key::clickUrl)));
+        offer.setCurrencyCount(json::numberText(o.value(key::currencyCount)));
+        return offer;
+    });
+}
+
+QVProfile parseProfile(const QByteArray &body)
+{
+    const QJsonObject currency = json::object(json::object(json::object(
+        json::object(topLevel(body)).value(key::profile)).value(key::settings)).value(key::currency));
+    QVProfile profile;
+    profile.setShowCurrency(json::truth(currency.value(key::visible)));
+    profile.setCurrencyName(json::string(currency.value(key::name)));
+    return profile;
+}
+
+QList<QVCategory> parseCategories(const QByteArray &body)
+{
+    return records<QVCategory>(json::array(topLevel(body)), [](const QJsonObject &o) {
+        QVCategory category;
+        category.setCategoryId(json::numberText(o.value(key::id)));
+        category.setCategoryName(json::string(o.value(key::name)));
+        return category;
+    });
+}
+
+QList<QVTransaction> parseTransactions(const QByteArray &body)
+{
+    const QJsonArray list = json::array(json::object(topLevel(body)).value(key::transactions));
+    return records<QVTransaction>(list, [](const QJsonObject &o) {
+        QVTransaction transaction;
+        transaction.setOfferName(json::string(o.value(key::offerName)));
+        transaction.setTimestamp(displayTimestamp(json::string(o.value(key::timestamp))));
+        transaction.setCurrencyAdjustment(json::numberText(o.value(key::currencyAdjustment)));
+        return transaction;
+    });
+}
+
+QVariant parseTicketId(const QByteArray &body)
+{
+    const QJsonValue id = json::object(topLevel(body)).value(key::ticketId);
+    return id.isUndefined() || id.isNull() ? QVariant() : id.toVariant();
+}
+
+} // namespace quorva::detail

@@ -1,0 +1,45 @@
+#include "ServiceTimestamp.h"
+
+#include <QtCore/QDateTime>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QTimeZone>
+
+namespace quorva::detail {
+
+namespace {
+// The offset takes the numeric forms +0000 and +00:00, and a literal Z for UTC.
+const QRegularExpression kServiceFormat(
+    QStringLiteral(R"(^(\d{4})-(\d{2})-(\d{2})T(\d{2}):(\d{2}):(\d{2})(?:([+-])(\d{2}):?(\d{2})|Z)$)"));
+}
+
+QString displayTimestamp(const QString &serviceTimestamp)
+{
+    const QRegularExpressionMatch match = kServiceFormat.match(serviceTimestamp);
+    if (!match.hasMatch())
+        return {};
+    auto field = [&match](int index) { return match.capturedView(index).toInt(); };
+    const QDate date(field(1), field(2), field(3));
+    const QTime time(field(4), field(5), field(6));
+    if (!date.isValid() || !time.isValid())
+        return {};
+    int offsetSeconds = 0;
+    if (match.hasCaptured(7)) {
+        const int hours = field(8);
+        const int minutes = field(9);
+        if (hours > 23 || minutes > 59)
+            return {};
+        offsetSeconds = (hours * 3600 + minutes * 60) * (match.capturedView(7) == u"-" ? -1 : 1);
+    }
+    const QDateTime local = QDateTime(date, time, QTimeZone(offsetSeconds)).toLocalTime();
+    const QTime t = local.time();
+    const int hour12 = t.hour() % 12 == 0 ? 12 : t.hour() % 12;
+    return QStringLiteral("%1/%2/%3 %4:%5:%6")
+        .arg(local.date().month(), 2, 10, QLatin1Char('0'))
+        .arg(local.date().day(), 2, 10, QLatin1Char('0'))
+        .arg(local.date().year(), 4, 10, QLatin1Char('0'))
+        .arg(hour12, 2, 10, QLatin1Char('0'))
+        .arg(t.minute(), 2, 10, QLatin1Char('0'))
+        .arg(t.second(), 2, 10, QLatin1Char('0'));
+}
+
+} // namespace quorva::detail

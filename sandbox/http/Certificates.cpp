@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <random>
 #include <sstream>
 #include <stdexcept>
 
@@ -73,6 +74,7 @@ CertPtr newCertificate(EVP_PKEY *key, const char *commonName, long serial, X509 
         addExtension(cert.get(), signer, NID_subject_key_identifier, "hash");
     } else {
         addExtension(cert.get(), signer, NID_basic_constraints, "critical,CA:FALSE");
+        addExtension(cert.get(), signer, NID_authority_key_identifier, "keyid:always");
         addExtension(cert.get(), signer, NID_key_usage, "critical,digitalSignature,keyEncipherment");
         addExtension(cert.get(), signer, NID_ext_key_usage, "serverAuth");
         addExtension(cert.get(), signer, NID_subject_alt_name,
@@ -118,10 +120,15 @@ void writeFile(const std::filesystem::path &path, const std::string &content)
 
 GeneratedCertificates generateLoopbackCertificates()
 {
+    // Each authority gets its own name and serials, so a client that trusts several
+    // sandboxes (one per test, say) never confuses their chains.
+    std::random_device random;
+    const long serial = static_cast<long>(random() & 0x3fffffff) + 1;
+    const std::string caName = "QuorvaMedia Sandbox CA " + std::to_string(serial);
     KeyPtr caKey = newKey();
-    CertPtr ca = newCertificate(caKey.get(), "QuorvaMedia Sandbox CA", 1, nullptr, caKey.get(), true);
+    CertPtr ca = newCertificate(caKey.get(), caName.c_str(), serial, nullptr, caKey.get(), true);
     KeyPtr serverKey = newKey();
-    CertPtr server = newCertificate(serverKey.get(), "localhost", 2, ca.get(), caKey.get(), false);
+    CertPtr server = newCertificate(serverKey.get(), "localhost", serial + 1, ca.get(), caKey.get(), false);
 
     GeneratedCertificates result;
     result.caCertificatePem = pem(ca.get());

@@ -3,6 +3,7 @@
 #include "ReplyParsers.h"
 #include "RequestPipeline.h"
 #include "ServiceTimestamp.h"
+#include "UserAgent.h"
 #include "../ui/QVDevice.h"
 
 #include <QtCore/QCoreApplication>
@@ -20,8 +21,6 @@ using quorva::detail::RequestPipeline;
 namespace {
 constexpr QLatin1StringView kProductionHost("api.quorvamedia.com");
 constexpr QLatin1StringView kZeroAdvertisingId("00000000-0000-0000-0000-000000000000");
-constexpr QLatin1StringView kAbsentText("(null)");
-constexpr QLatin1StringView kUserAgentFormat("%1 Quorva-SDK (iOS/%2)");
 constexpr QLatin1StringView kJsonContentType("application/json");
 constexpr int kPageSize = 30;
 
@@ -186,9 +185,7 @@ QString QuorvaRestAPI::customUserAgent()
         m_cachedApplicationName = QCoreApplication::applicationName();
     if (m_cachedDeviceModel.isEmpty())
         m_cachedDeviceModel = QVDevice::model();
-    const QString name = m_cachedApplicationName.isEmpty() ? QString(kAbsentText) : m_cachedApplicationName;
-    const QString model = m_cachedDeviceModel.isEmpty() ? QString(kAbsentText) : m_cachedDeviceModel;
-    return QString(kUserAgentFormat).arg(name, model);
+    return quorva::detail::formatUserAgent(m_cachedApplicationName, m_cachedDeviceModel);
 }
 
 QString QuorvaRestAPI::dateStringFromString(const QString &timestamp) const
@@ -202,6 +199,11 @@ QString QuorvaRestAPI::addressFor(const char *scheme, const QString &path) const
 }
 
 QString QuorvaRestAPI::profilePath(const char *pathFormat) const
+{
+    return QString::fromLatin1(pathFormat).arg(m_pubId, m_corvelId);
+}
+
+QString QuorvaRestAPI::userPath(const char *pathFormat) const
 {
     return QString::fromLatin1(pathFormat).arg(m_pubId, m_corvelId, m_subId1);
 }
@@ -283,7 +285,7 @@ void QuorvaRestAPI::fetchCategories(CategoriesCallback callback, FailureCallback
 
 void QuorvaRestAPI::fetchHistory(HistoryCallback callback, FailureCallback failure)
 {
-    const QString address = urlString(addressFor(kHttps, profilePath(kHistoryPath)), std::nullopt);
+    const QString address = urlString(addressFor(kHttps, userPath(kHistoryPath)), std::nullopt);
     RequestPipeline::send<QList<QVTransaction>>(
         networkAccessManager(), connectionQueue(), requestFor(address), "GET", {},
         &quorva::detail::parseTransactions,
@@ -311,7 +313,7 @@ void QuorvaRestAPI::createSupportTicket(const QString &name, const QString &emai
         << QString(logline::ticketParams)
                .arg(QString::fromUtf8(QJsonDocument(ticket).toJson(QJsonDocument::Compact)));
 
-    QNetworkRequest request = requestFor(addressFor(kHttps, profilePath(kTicketPath)));
+    QNetworkRequest request = requestFor(addressFor(kHttps, userPath(kTicketPath)));
     request.setHeader(QNetworkRequest::ContentTypeHeader, QString(kJsonContentType));
     RequestPipeline::send<QVariant>(
         networkAccessManager(), connectionQueue(), request, "POST", payload,

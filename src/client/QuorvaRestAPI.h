@@ -94,6 +94,7 @@ private:
 
     QString addressFor(const char *scheme, const QString &path) const;
     QString profilePath(const char *pathFormat) const;
+    QString userPath(const char *pathFormat) const;
     QNetworkRequest requestFor(const QString &address);
     QVAdvertisingInfo advertisingInfo() const;
 

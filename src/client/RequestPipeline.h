@@ -3,6 +3,7 @@
 #include "quorvamedia_global.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QString>
 #include <QtNetwork/QNetworkRequest>
 
 #include <functional>

@@ -1,0 +1,31 @@
+# Installs the library into a scratch prefix, then configures, builds and runs a host
+# project that finds it with find_package.
+file(REMOVE_RECURSE ${WORK_DIR})
+set(prefix ${WORK_DIR}/prefix)
+execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix} --component Unspecified
+                RESULT_VARIABLE rc OUTPUT_QUIET)
+if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "install failed")
+endif()
+if(EXISTS ${prefix}/include/QuorvaMedia/RequestPipeline.h OR EXISTS ${prefix}/include/QuorvaMedia/ReplyParsers.h)
+    message(FATAL_ERROR "private headers were installed")
+endif()
+set(flags "")
+if(SANITIZE)
+    set(flags "-fsanitize=address,undefined")
+endif()
+execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE_DIR}/tests/host-project -B ${WORK_DIR}/build
+                        -DCMAKE_PREFIX_PATH=${prefix} "-DCMAKE_CXX_FLAGS=${flags}" "-DCMAKE_EXE_LINKER_FLAGS=${flags}"
+                RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "host project did not configure against the installed package")
+endif()
+execute_process(COMMAND ${CMAKE_COMMAND} --build ${WORK_DIR}/build RESULT_VARIABLE rc)
+if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "host project did not build")
+endif()
+execute_process(COMMAND ${WORK_DIR}/build/quorva-host RESULT_VARIABLE rc OUTPUT_VARIABLE out)
+message(STATUS "host printed: ${out}")
+if(NOT rc EQUAL 0 OR NOT out MATCHES "PROJECT:QuorvaMedia-1.1.0")
+    message(FATAL_ERROR "host project did not run against the installed library")
+endif()

@@ -1,0 +1,337 @@
+#include "CallbackProbe.h"
+#include "SandboxProcess.h"
+
+#include <QuorvaMedia/QuorvaMedia.h>
+
+#include <QtCore/QJsonArray>
+#include <QtCore/QJsonDocument>
+#include <QtCore/QJsonObject>
+#include <QtNetwork/QNetworkAccessManager>
+#include <QtNetwork/QNetworkReply>
+#include <QtTest/QtTest>
+
+namespace {
+struct RawReply
+{
+    int status = 0;
+    QByteArray body;
+    QJsonValue json() const
+    {
+        const QJsonDocument d = QJsonDocument::fromJson(body);
+        return d.isArray() ? QJsonValue(d.array()) : QJsonValue(d.object());
+    }
+};
+} // namespace
+
+// The sandbox service, exercised over real sockets with the real client where it can be.
+class tst_Sandbox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void pagesThroughTheWholeCatalogue();
+    void filters_data();
+    void filters();
+    void sortOrders_data();
+    void sortOrders();
+    void profilesAndHistory();
+    void badInputIsRejectedAndNothingStored_data();
+    void badInputIsRejectedAndNothingStored();
+    void ticketsSurviveARestart();
+    void picturesAreServed();
+    void injectedFaults_data();
+    void injectedFaults();
+
+private:
+    RawReply raw(const QByteArray &verb, const QString &path, const QByteArray &body = {},
+                 const SandboxProcess *sandbox = nullptr, bool tls = true);
+    QList<QVOffer> fetchPage(quint64 offset, const QString &sort, const QString &category, bool featured, bool *more);
+    void useSandbox(const SandboxProcess &sandbox);
+
+    std::unique_ptr<SandboxProcess> m_sandbox;
+    QNetworkAccessManager m_network;
+};
+
+void tst_Sandbox::initTestCase()
+{
+    m_sandbox = std::make_unique<SandboxProcess>();
+    QVERIFY2(m_sandbox->isRunning(), "the sandbox did not start");
+    QVERIFY(!m_sandbox->caCertificates().isEmpty());
+    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_sandbox->caCertificates());
+}
+
+void tst_Sandbox::useSandbox(const SandboxProcess &sandbox)
+{
+    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+    api->setServiceBaseAddress(sandbox.baseAddress());
+    api->setPubId(QStringLiteral("1042"));
+    api->setCorvelId(QStringLiteral("7"));
+    api->setSubId1(QStringLiteral("user-1"));
+}
+
+void tst_Sandbox::init()
+{
+    useSandbox(*m_sandbox);
+}
+
+RawReply tst_Sandbox::raw(const QByteArray &verb, const QString &path, const QByteArray &body,
+                          const SandboxProcess *sandbox, bool tls)
+{
+    const SandboxProcess &target = sandbox ? *sandbox : *m_sandbox;
+    QNetworkRequest request(QUrl(QStringLiteral("%1://%2%3").arg(tls ? "https" : "http", target.baseAddress(), path)));
+    QSslConfiguration ssl = QSslConfiguration::defaultConfiguration();
+    ssl.addCaCertificates(target.caCertificates());
+    request.setSslConfiguration(ssl);
+    request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+    QNetworkReply *reply = m_network.sendCustomRequest(request, verb, body);
+    QSignalSpy finished(reply, &QNetworkReply::finished);
+    finished.wait(10000);
+    RawReply result{reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), reply->readAll()};
+    reply->deleteLater();
+    return result;
+}
+
+QList<QVOffer> tst_Sandbox::fetchPage(quint64 offset, const QString &sort, const QString &category, bool featured,
+                                      bool *more)
+{
+    QList<QVOffer> page;
+    CallbackProbe probe;
+    QuorvaRestAPI::sharedInstance()->fetchOffers(offset, sort, category, featured,
+        [&](const QList<QVOffer> &offers, bool hasMore) { ++probe.successes; page = offers; *more = hasMore; },
+        probe.failure());
+    if (!QTest::qWaitFor([&] { return probe.finished(); }, 10000) || probe.failures)
+        *more = false;
+    return page;
+}
+
+void tst_Sandbox::pagesThroughTheWholeCatalogue()
+{
+    QSet<QString> ids;
+    bool more = true;
+    int pages = 0;
+    while (more && pages < 50) {
+        const QList<QVOffer> page = fetchPage(ids.size(), {}, {}, false, &more);
+        if (more) {
+            QVERIFY(!page.isEmpty());
+            QVERIFY(page.size() <= 30);
+        }
+        for (const QVOffer &offer : page) {
+            QVERIFY2(!ids.contains(offer.offerId()), "an offer appeared on two pages");
+            ids.insert(offer.offerId());
+            QVERIFY(offer.imageURL().startsWith(QStringLiteral("https://127.0.0.1:")));
+            QVERIFY(!offer.currencyCount().isEmpty());
+        }
+        ++pages;
+    }
+    QVERIFY(!more);
+    QCOMPARE(ids.size(), 320);
+    QCOMPARE(pages, 12); // 10 full pages, a partial one, then no content
+}
+
+void tst_Sandbox::filters_data()
+{
+    QTest::addColumn<QString>("query");
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QJsonValue>("expected");
+    QTest::newRow("category") << "category_id=3" << "category_id" << QJsonValue(3);
+    QTest::newRow("featured") << "featured_only=1" << "featured" << QJsonValue(true);
+    QTest::newRow("both") << "category_id=1&featured_only=1" << "category_id" << QJsonValue(1);
+}
+
+void tst_Sandbox::filters()
+{
+    QFETCH(QString, query);
+    QFETCH(QString, field);
+    QFETCH(QJsonValue, expected);
+    const RawReply reply = raw("GET", QStringLiteral("/corvel/api/publisher/1042/profile/7/offers.json?subid1=u&limit=100&") + query);
+    QCOMPARE(reply.status, 200);
+    const QJsonArray offers = reply.json()[QStringLiteral("offers")].toArray();
+    QVERIFY(!offers.isEmpty());
+    QVERIFY(offers.size() < 100);
+    for (const QJsonValue &offer : offers)
+        QCOMPARE(offer[field], expected);
+    const RawReply none = raw("GET", QStringLiteral("/corvel/api/publisher/1042/profile/7/offers.json?subid1=u&category_id=999"));
+    QCOMPARE(none.status, 204);
+}
+
+void tst_Sandbox::sortOrders_data()
+{
+    QTest::addColumn<QString>("sort");
+    QTest::addColumn<bool>("checkPayout");
+    QTest::newRow("payout, high to low") << "payout" << true;
+    QTest::newRow("popularity") << "popularity" << false;
+    QTest::newRow("trending") << "trending" << false;
+    QTest::newRow("credit delay") << "credit_delay" << false;
+}
+
+void tst_Sandbox::sortOrders()
+{
+    QFETCH(QString, sort);
+    QFETCH(bool, checkPayout);
+    bool more = false;
+    const QList<QVOffer> first = fetchPage(0, sort, {}, false, &more);
+    const QList<QVOffer> second = fetchPage(30, sort, {}, false, &more);
+    QCOMPARE(first.size(), 30);
+    QCOMPARE(second.size(), 30);
+    if (checkPayout) {
+        const QList<QVOffer> all = first + second;
+        for (qsizetype i = 1; i < all.size(); ++i)
+            QVERIFY(all[i - 1].currencyCount().toLongLong() >= all[i].currencyCount().toLongLong());
+    }
+    // Different orders give different first pages; the default is popularity.
+    const QList<QVOffer> byPopularity = fetchPage(0, QStringLiteral("popularity"), {}, false, &more);
+    if (sort != QLatin1String("popularity"))
+        QVERIFY(first.first().offerId() != byPopularity.first().offerId() || first[1].offerId() != byPopularity[1].offerId());
+    QCOMPARE(fetchPage(0, {}, {}, false, &more).first().offerId(), byPopularity.first().offerId());
+}
+
+void tst_Sandbox::profilesAndHistory()
+{
+    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+    QVProfile profile;
+    CallbackProbe probe;
+    api->fetchProfile([&](const QVProfile &p) { ++probe.successes; profile = p; }, probe.failure());
+    QTRY_COMPARE(probe.successes, 1);
+    QCOMPARE(profile.currencyName(), QStringLiteral("Gems"));
+    QVERIFY(profile.showCurrency());
+
+    QList<QVTransaction> history;
+    api->fetchHistory([&](const QList<QVTransaction> &list) { ++probe.successes; history = list; }, probe.failure());
+    QTRY_COMPARE(probe.successes, 2);
+    QVERIFY(!history.isEmpty());
+    for (const QVTransaction &t : history)
+        QVERIFY2(QRegularExpression(QStringLiteral(R"(^\d\d/\d\d/\d{4} \d\d:\d\d:\d\d$)")).match(t.timestamp()).hasMatch(),
+                 qPrintable(t.timestamp()));
+
+    api->setSubId1(QStringLiteral("nobody"));
+    QTest::ignoreMessage(QtInfoMsg, "No transactions in history");
+    api->fetchHistory([&](const QList<QVTransaction> &list) { ++probe.successes; history = list; }, probe.failure());
+    QTRY_COMPARE(probe.successes, 3);
+    QVERIFY(history.isEmpty());
+
+    api->setCorvelId(QStringLiteral("404"));
+    QTest::ignoreMessage(QtInfoMsg, "corvelId doesn't exist for the specified pubId");
+    api->fetchProfile([&](const QVProfile &) { ++probe.successes; }, probe.failure());
+    QTest::qWait(500);
+    QCOMPARE(probe.successes, 3);
+    QCOMPARE(probe.failures, 0);
+}
+
+void tst_Sandbox::badInputIsRejectedAndNothingStored_data()
+{
+    QTest::addColumn<QByteArray>("verb");
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QByteArray>("body");
+    QTest::addColumn<int>("status");
+    const QString offers = QStringLiteral("/corvel/api/publisher/1042/profile/7/offers.json");
+    const QString tickets = QStringLiteral("/corvel/api/publisher/1042/profile/7/user/u9/tickets.json");
+    QTest::newRow("unknown publisher") << QByteArray("GET") << "/corvel/api/publisher/nobody/profile/7/offers.json?subid1=u" << QByteArray() << 404;
+    QTest::newRow("missing subid1") << QByteArray("GET") << offers + "?limit=30" << QByteArray() << 400;
+    QTest::newRow("limit not a number") << QByteArray("GET") << offers + "?subid1=u&limit=lots" << QByteArray() << 400;
+    QTest::newRow("unknown sort") << QByteArray("GET") << offers + "?subid1=u&sort_by=random" << QByteArray() << 400;
+    QTest::newRow("ticket not json") << QByteArray("POST") << tickets << QByteArray("name=Ann") << 400;
+    QTest::newRow("ticket is a list") << QByteArray("POST") << tickets << QByteArray("[]") << 400;
+    QTest::newRow("ticket lacks email") << QByteArray("POST") << tickets << QByteArray(R"({"name":"Ann","subject_id":"1"})") << 422;
+    QTest::newRow("ticket for unknown wall") << QByteArray("POST") << "/corvel/api/publisher/1042/profile/99/user/u/tickets.json"
+                                             << QByteArray(R"({"name":"A","email":"a@b.c","subject_id":"1"})") << 404;
+    QTest::newRow("no such endpoint") << QByteArray("GET") << "/corvel/nothing.json" << QByteArray() << 404;
+}
+
+void tst_Sandbox::badInputIsRejectedAndNothingStored()
+{
+    QFETCH(QByteArray, verb);
+    QFETCH(QString, path);
+    QFETCH(QByteArray, body);
+    QFETCH(int, status);
+    const int ticketsBefore = raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray().size();
+    const RawReply reply = raw(verb, path, body);
+    QCOMPARE(reply.status, status);
+    QVERIFY2(!reply.json()[QStringLiteral("error")].toString().isEmpty(), reply.body.constData());
+    QCOMPARE(raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray().size(), ticketsBefore);
+}
+
+void tst_Sandbox::ticketsSurviveARestart()
+{
+    QTemporaryDir data;
+    QVariant firstId;
+    QVariant secondId;
+    CallbackProbe probe;
+    {
+        SandboxProcess first({}, data.path());
+        QVERIFY(first.isRunning());
+        QuorvaRestAPI::sharedInstance()->addCaCertificates(first.caCertificates());
+        useSandbox(first);
+        QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: ")));
+        QuorvaRestAPI::sharedInstance()->createSupportTicket(QStringLiteral("Ann"), QStringLiteral("ann@example.com"),
+            QStringLiteral("1"), QStringLiteral("Not credited"), QStringLiteral("Dragon Realms"), QStringLiteral("11/02/2026"),
+            [&](const QVariant &id) { ++probe.successes; firstId = id; }, probe.failure());
+        QTRY_COMPARE(probe.successes, 1);
+    }
+    SandboxProcess second({}, data.path());
+    QVERIFY(second.isRunning());
+    useSandbox(second);
+    QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: ")));
+    QuorvaRestAPI::sharedInstance()->createSupportTicket(QStringLiteral("Bob"), QStringLiteral("bob@example.com"),
+        QStringLiteral("3"), {}, {}, {}, [&](const QVariant &id) { ++probe.successes; secondId = id; }, probe.failure());
+    QTRY_COMPARE(probe.successes, 2);
+    QCOMPARE(secondId.toLongLong(), firstId.toLongLong() + 1);
+
+    const QJsonArray stored = raw("GET", QStringLiteral("/sandbox/tickets.json"), {}, &second).json()[QStringLiteral("tickets")].toArray();
+    QCOMPARE(stored.size(), 2);
+    QCOMPARE(stored[0][QStringLiteral("name")].toString(), QStringLiteral("Ann"));
+    QCOMPARE(stored[0][QStringLiteral("message")].toString(), QStringLiteral("Not credited"));
+    QCOMPARE(stored[0][QStringLiteral("offer_name")].toString(), QStringLiteral("Dragon Realms"));
+    QCOMPARE(stored[0][QStringLiteral("user")].toString(), QStringLiteral("user-1"));
+    QVERIFY(!stored[1].toObject().contains(QStringLiteral("message")));
+}
+
+void tst_Sandbox::picturesAreServed()
+{
+    const RawReply picture = raw("GET", QStringLiteral("/img/5.png"));
+    QCOMPARE(picture.status, 200);
+    QVERIFY(picture.body.startsWith("\x89PNG"));
+    QCOMPARE(raw("GET", QStringLiteral("/img/99999.png")).status, 404);
+    // Both schemes on the one port.
+    QCOMPARE(raw("GET", QStringLiteral("/img/5.png"), {}, nullptr, false).body, picture.body);
+}
+
+void tst_Sandbox::injectedFaults_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("fails");
+    QTest::addColumn<bool>("more");
+    QTest::newRow("dropped connections") << QStringList{"--drop-connections"} << true << false;
+    QTest::newRow("truncated bodies") << QStringList{"--broken-body", "truncated"} << true << false;
+    QTest::newRow("bodies that are not JSON") << QStringList{"--broken-body", "not-json"} << false << true;
+    QTest::newRow("forced 500") << QStringList{"--force-status", "500"} << false << true;
+    QTest::newRow("forced 204") << QStringList{"--force-status", "204"} << false << false;
+}
+
+void tst_Sandbox::injectedFaults()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(bool, fails);
+    QFETCH(bool, more);
+    SandboxProcess faulty(arguments << QStringLiteral("--fault-path") << QStringLiteral("offers.json"));
+    QVERIFY(faulty.isRunning());
+    QuorvaRestAPI::sharedInstance()->addCaCertificates(faulty.caCertificates());
+    useSandbox(faulty);
+    CallbackProbe probe;
+    QList<QVOffer> page{QVOffer()};
+    bool hasMore = !more;
+    QuorvaRestAPI::sharedInstance()->fetchOffers(0, {}, {}, false,
+        [&](const QList<QVOffer> &offers, bool flag) { ++probe.successes; page = offers; hasMore = flag; },
+        probe.failure());
+    QTRY_VERIFY_WITH_TIMEOUT(probe.finished(), 10000);
+    QCOMPARE(probe.failures, fails ? 1 : 0);
+    if (!fails) {
+        QVERIFY(page.isEmpty());
+        QCOMPARE(hasMore, more);
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_Sandbox)
+#include "tst_Sandbox.moc"

@@ -12,3 +12,10 @@
 #include <QuorvaMedia/QVSort.h>
 #include <QuorvaMedia/QuorvaRestAPI.h>
 #include <QuorvaMedia/QVDevice.h>
+#include <QuorvaMedia/QVColor.h>
+#include <QuorvaMedia/QVImageCache.h>
+#include <QuorvaMedia/QVImageView.h>
+#include <QuorvaMedia/QVOfferUICollectionViewCell.h>
+#include <QuorvaMedia/QVFilterCells.h>
+#include <QuorvaMedia/QVFiltersViewController.h>
+#include <QuorvaMedia/QVOffersViewController.h>

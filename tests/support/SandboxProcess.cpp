@@ -2,6 +2,9 @@
 
 #include <QtCore/QRegularExpression>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 #ifndef QUORVA_SANDBOX_EXECUTABLE
 #error "QUORVA_SANDBOX_EXECUTABLE must name the sandbox binary"
 #endif
@@ -9,6 +12,8 @@
 SandboxProcess::SandboxProcess(const QStringList &extraArguments, const QString &dataDirectory)
     : m_dataDirectory(dataDirectory.isEmpty() ? m_tempDir.path() : dataDirectory)
 {
+    // The sandbox goes away with its parent, even when the parent crashes.
+    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
     m_process.setProcessChannelMode(QProcess::SeparateChannels);
     m_process.start(executable(), QStringList{QStringLiteral("--port"), QStringLiteral("0"),
                                               QStringLiteral("--data-dir"), m_dataDirectory,

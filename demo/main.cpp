@@ -1,0 +1,68 @@
+// quorva-demo: a host application that embeds the offer wall against the local sandbox.
+// With a display it opens a phone- or tablet-sized window; with --screenshots it renders
+// the main screens to PNG files and prints their paths.
+#include "DemoSandbox.h"
+#include "ScreenshotTour.h"
+
+#include <QuorvaMedia/QuorvaMedia.h>
+
+#include <QtCore/QCommandLineParser>
+#include <QtGui/QGuiApplication>
+#include <QtQuick/QQuickWindow>
+
+#include <cstdio>
+
+namespace {
+class DemoHost : public QVOffersViewControllerDelegate
+{
+public:
+    void onCloseOffersVCPressed() override { QGuiApplication::quit(); }
+};
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QGuiApplication app(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("Quorva Demo"));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Offer wall demo host against the local sandbox."));
+    parser.addHelpOption();
+    const QCommandLineOption tablet(QStringLiteral("tablet"), QStringLiteral("Tablet idiom and window size."));
+    const QCommandLineOption wall(QStringLiteral("wall"), QStringLiteral("Offer wall id (7 full, 8 empty, 9 large)."),
+                                  QStringLiteral("id"), QStringLiteral("7"));
+    const QCommandLineOption screenshots(QStringLiteral("screenshots"),
+                                         QStringLiteral("Render the main screens to PNG files in this folder and exit."),
+                                         QStringLiteral("dir"));
+    parser.addOptions({tablet, wall, screenshots});
+    parser.process(app);
+
+    DemoSandbox sandbox;
+    if (!sandbox.start()) {
+        std::fprintf(stderr, "quorva-demo: the sandbox did not start\n");
+        return 1;
+    }
+
+    if (parser.isSet(screenshots)) {
+        ScreenshotTour tour(sandbox, parser.value(screenshots));
+        return tour.run();
+    }
+
+    // An interactive host: about ten lines of integration.
+    QVDevice::setUserInterfaceIdiom(parser.isSet(tablet) ? QVDevice::Idiom::Tablet : QVDevice::Idiom::Phone);
+    QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(sandbox.baseAddress());
+    QuorvaRestAPI::sharedInstance()->addCaCertificates(sandbox.caCertificates());
+    DemoHost host;
+    QQuickWindow window;
+    window.resize(parser.isSet(tablet) ? QSize(1024, 768) : QSize(390, 780));
+    window.setTitle(QStringLiteral("QuorvaMedia demo"));
+    QVOffersViewController *offerWall = QVOffersViewController::newOffersWallForPublisherId(
+        QStringLiteral("1042"), parser.value(wall), QStringLiteral("user-1"), &host);
+    offerWall->setGender(1);
+    offerWall->setParentItem(window.contentItem());
+    offerWall->setSize(window.size());
+    QObject::connect(&window, &QQuickWindow::widthChanged, offerWall, [&] { offerWall->setSize(window.size()); });
+    QObject::connect(&window, &QQuickWindow::heightChanged, offerWall, [&] { offerWall->setSize(window.size()); });
+    window.show();
+    return app.exec();
+}

@@ -1,0 +1,77 @@
+import QtQuick
+import QtQuick.Controls.Basic
+
+// A one-button alert centred over the item it belongs to.
+Dialog {
+    id: alert
+    objectName: "alert"
+
+    property string message
+    property string actionTitle: "Ok"
+
+    anchors.centerIn: parent
+    width: Math.min(parent ? parent.width - 64 : 270, 290)
+    modal: true
+    closePolicy: Popup.NoAutoClose
+    padding: 0
+    topPadding: 0
+
+    background: Rectangle {
+        radius: 14
+        color: "#F7F7F9"
+    }
+
+    header: Label {
+        text: alert.title
+        topPadding: 20
+        leftPadding: 16
+        rightPadding: 16
+        font.pixelSize: 17
+        font.bold: true
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.WordWrap
+        color: "#111118"
+    }
+
+    contentItem: Label {
+        text: alert.message.trim()
+        topPadding: 6
+        bottomPadding: 18
+        leftPadding: 16
+        rightPadding: 16
+        font.pixelSize: 14
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.WordWrap
+        color: "#3C3C46"
+    }
+
+    footer: Item {
+        implicitHeight: 46
+        Rectangle {
+            width: parent.width
+            height: 1
+            color: "#DCDCE2"
+        }
+        Button {
+            objectName: "alertAction"
+            anchors.fill: parent
+            anchors.topMargin: 1
+            text: alert.actionTitle
+            flat: true
+            font.pixelSize: 17
+            font.bold: true
+            onClicked: alert.close()
+            background: Rectangle {
+                color: parent.pressed ? "#E6E6EC" : "transparent"
+                radius: 14
+            }
+            contentItem: Label {
+                text: parent.text
+                font: parent.font
+                color: "#3F51D8"
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+            }
+        }
+    }
+}

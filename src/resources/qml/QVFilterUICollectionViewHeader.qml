@@ -1,0 +1,26 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+QVFilterUICollectionViewHeaderBase {
+    id: header
+
+    property string title
+
+    name: label
+    implicitHeight: 44
+
+    Label {
+        id: label
+        objectName: "name"
+        anchors.left: parent.left
+        anchors.bottom: parent.bottom
+        anchors.leftMargin: 20
+        anchors.bottomMargin: 8
+        text: header.title.toUpperCase()
+        font.pixelSize: 13
+        font.bold: true
+        font.letterSpacing: 0.8
+        color: "#4B4B9A"
+    }
+}

@@ -1,0 +1,65 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+QVFiltersViewControllerBase {
+    id: panel
+
+    collectionView: list
+    saveButton: save
+
+    ListView {
+        id: list
+        objectName: "collectionView"
+        anchors.fill: parent
+        anchors.topMargin: panel.topMargin + panel.sectionInsetTop
+        anchors.bottomMargin: save.visible ? save.height + 28 : 0
+        clip: true
+        model: panel.model
+        boundsBehavior: Flickable.StopAtBounds
+
+        section.property: "sectionTitle"
+        section.delegate: QVFilterUICollectionViewHeader {
+            required property string section
+            width: ListView.view.width
+            title: section
+        }
+
+        delegate: QVFilterUICollectionViewCell {
+            required property int sectionIndex
+            required property int row
+            required title
+            required selected
+            width: ListView.view.width
+            height: panel.itemHeight
+            onPressed: panel.didSelectItem(sectionIndex, row)
+        }
+
+        ScrollIndicator.vertical: ScrollIndicator {}
+    }
+
+    Button {
+        id: save
+        objectName: "saveButton"
+        visible: false
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        anchors.margins: 14
+        height: 48
+        text: "Apply Filters"
+        onClicked: panel.onSavedPressed()
+        background: Rectangle {
+            radius: panel.cornerRadius
+            color: save.pressed ? "#2D3BB0" : "#3F51D8"
+        }
+        contentItem: Label {
+            text: save.text
+            font.pixelSize: 17
+            font.bold: true
+            color: "#FFFFFF"
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+        }
+    }
+}

@@ -1,0 +1,210 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+QVOffersViewControllerBase {
+    id: root
+
+    headerView: header
+    headerTitle: title
+    closeBtn: closeButton
+    filterBtn: filterButton
+    supportBtn: supportButton
+    collectionView: list
+    noOffersLabel: emptyLabel
+    filterPopover: popover
+
+    clip: true
+
+    Rectangle {
+        anchors.fill: parent
+        color: "#F2F2F2"
+    }
+
+    GridView {
+        id: list
+        objectName: "collectionView"
+        anchors.top: header.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        model: root.offersModel
+        cellWidth: root.cellSize.width
+        cellHeight: root.cellSize.height
+        topMargin: root.sectionInsetTop
+        bottomMargin: 8
+        reuseItems: true
+        delegate: QVOfferUICollectionViewCell {
+            required property int index
+            width: GridView.view.cellWidth
+            height: GridView.view.cellHeight
+            row: index
+            dataSource: root
+            GridView.onReused: reload()
+        }
+        footer: Item {
+            width: list.width
+            height: root.loadingOffers && list.count > 0 ? 64 : 0
+            BusyIndicator {
+                anchors.centerIn: parent
+                running: parent.height > 0
+                visible: running
+            }
+        }
+        ScrollIndicator.vertical: ScrollIndicator {}
+    }
+
+    Column {
+        objectName: "loadingIndicator"
+        anchors.centerIn: list
+        spacing: 12
+        visible: root.loadingOffers && list.count === 0
+        BusyIndicator {
+            anchors.horizontalCenter: parent.horizontalCenter
+            running: parent.visible
+        }
+        Label {
+            text: "Loading offers…"
+            font.pixelSize: 15
+            color: "#5F5F6E"
+        }
+    }
+
+    Label {
+        id: emptyLabel
+        objectName: "noOffersLabel"
+        anchors.centerIn: list
+        anchors.verticalCenterOffset: -24
+        visible: false
+        text: "No offers right now"
+        font.pixelSize: 19
+        font.bold: true
+        color: "#2B2B36"
+    }
+    Label {
+        anchors.top: emptyLabel.bottom
+        anchors.topMargin: 8
+        anchors.horizontalCenter: emptyLabel.horizontalCenter
+        width: Math.min(list.width - 48, 300)
+        visible: emptyLabel.visible
+        text: "New ways to earn arrive often. Check back soon."
+        font.pixelSize: 15
+        color: "#5F5F6E"
+        wrapMode: Text.WordWrap
+        horizontalAlignment: Text.AlignHCenter
+    }
+
+    Rectangle {
+        id: header
+        objectName: "headerView"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        height: root.headerHeight
+        z: 2
+        gradient: Gradient {
+            orientation: Gradient.Horizontal
+            GradientStop { position: 0.0; color: "#2F2A86" }
+            GradientStop { position: 1.0; color: "#4A3FC4" }
+        }
+
+        MouseArea {
+            anchors.fill: parent
+            onClicked: root.headerTapped()
+        }
+
+        ToolButton {
+            id: closeButton
+            objectName: "closeBtn"
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            anchors.leftMargin: 6
+            icon.source: "icons/close.svg"
+            icon.color: "#FFFFFF"
+            icon.width: 24
+            icon.height: 24
+            background: HeaderButtonBackground { down: closeButton.down }
+            onClicked: root.onClosePressed()
+        }
+
+        Label {
+            id: title
+            objectName: "headerTitle"
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width - 2 * 100)
+            font.pixelSize: 18
+            font.bold: true
+            color: "#FFFFFF"
+            elide: Text.ElideRight
+        }
+
+        Row {
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            anchors.rightMargin: 6
+            ToolButton {
+                id: supportButton
+                objectName: "supportBtn"
+                icon.source: "icons/support.svg"
+                icon.color: "#FFFFFF"
+                icon.width: 24
+                icon.height: 24
+                background: HeaderButtonBackground { down: supportButton.down }
+                onClicked: root.onSupportPressed()
+            }
+            ToolButton {
+                id: filterButton
+                objectName: "filterBtn"
+                icon.source: "icons/filter.svg"
+                icon.color: "#FFFFFF"
+                icon.width: 24
+                icon.height: 24
+                background: HeaderButtonBackground { down: filterButton.down }
+                onClicked: root.onFilterPressed()
+            }
+        }
+    }
+
+    Popup {
+        id: popover
+        objectName: "filterPopover"
+
+        property real arrowX: width / 2
+        readonly property real arrowHeight: 10
+
+        modal: true
+        dim: false
+        padding: 0
+        topPadding: arrowHeight
+        contentItem: Item {
+            objectName: "popoverContent"
+            clip: true
+        }
+        background: Item {
+            Rectangle {
+                anchors.fill: card
+                anchors.margins: -1
+                radius: card.radius + 1
+                color: "#26000000"
+            }
+            Rectangle {
+                width: 20
+                height: 20
+                rotation: 45
+                x: popover.arrowX - width / 2
+                y: popover.arrowHeight - height / 2 + 1
+                color: "#FFFFFF"
+                border.color: "#26000000"
+            }
+            Rectangle {
+                id: card
+                anchors.fill: parent
+                anchors.topMargin: popover.arrowHeight
+                radius: 14
+                color: "#FFFFFF"
+            }
+        }
+        onOpened: root.popoverDidPresent()
+        onClosed: root.popoverDidDismiss()
+    }
+}

@@ -1,0 +1,21 @@
+#include "QVAlertPresenter.h"
+#include "QVComponentFactory.h"
+
+#include <QtQml/QQmlEngine>
+#include <QtQuick/QQuickItem>
+
+QObject *QVAlertPresenter::present(QQuickItem *over, const QString &title, const QString &message,
+                                   const QString &actionTitle)
+{
+    QObject *alert = QVComponentFactory::create(qmlEngine(over), QStringLiteral("QVAlert"),
+                                                {{QStringLiteral("parent"), QVariant::fromValue(over)},
+                                                 {QStringLiteral("title"), title},
+                                                 {QStringLiteral("message"), message},
+                                                 {QStringLiteral("actionTitle"), actionTitle}});
+    if (!alert)
+        return nullptr;
+    // The alert belongs to the item it covers and removes itself once dismissed.
+    alert->setParent(over);
+    QMetaObject::invokeMethod(alert, "open");
+    return alert;
+}

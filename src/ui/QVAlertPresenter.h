@@ -1,0 +1,17 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+
+#include <QtCore/QString>
+
+class QObject;
+class QQuickItem;
+
+// Shows a one-button alert over an item. The alert is a dialog with objectName "alert",
+// string properties "title" and "message", and one button with objectName "alertAction".
+class QUORVAMEDIA_EXPORT QVAlertPresenter
+{
+public:
+    static QObject *present(QQuickItem *over, const QString &title, const QString &message,
+                            const QString &actionTitle);
+};

@@ -1,0 +1,54 @@
+#include "QVComponentFactory.h"
+#include "QuorvaLog.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QHash>
+#include <QtCore/QUrl>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlEngine>
+
+namespace {
+constexpr QLatin1StringView kModuleRoot("qrc:/qt-project.org/imports/QuorvaMedia/");
+
+// Compiling a component once per engine keeps opening a panel cheap.
+QQmlComponent *componentFor(QQmlEngine *engine, const QString &typeName)
+{
+    static QHash<QPair<QQmlEngine *, QString>, QQmlComponent *> components;
+    const auto key = qMakePair(engine, typeName);
+    if (QQmlComponent *existing = components.value(key))
+        return existing;
+    auto *component = new QQmlComponent(engine, QUrl(kModuleRoot + typeName + QStringLiteral(".qml")),
+                                        QQmlComponent::PreferSynchronous, engine);
+    QObject::connect(engine, &QObject::destroyed, [key] { components.remove(key); });
+    components.insert(key, component);
+    return component;
+}
+} // namespace
+
+QQmlEngine *QVComponentFactory::sharedEngine()
+{
+    static QQmlEngine *engine = new QQmlEngine(QCoreApplication::instance());
+    return engine;
+}
+
+QObject *QVComponentFactory::create(QQmlEngine *engine, const QString &typeName, const QVariantMap &properties)
+{
+    if (!engine)
+        engine = sharedEngine();
+    QQmlComponent *component = componentFor(engine, typeName);
+    // Creating from a component with errors must not be attempted: report instead.
+    QObject *object = component->isReady()
+        ? component->createWithInitialProperties(properties, engine->rootContext())
+        : nullptr;
+    if (!object) {
+        qCWarning(lcQuorvaDiagnostics).noquote() << "cannot create" << typeName << ":" << component->errorString();
+        return nullptr;
+    }
+    QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
+    return object;
+}
+
+void QVComponentFactory::destroy(QObject *object)
+{
+    delete object;
+}

@@ -1,0 +1,177 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+#include "QVCategory.h"
+#include "QVFiltersViewController.h"
+#include "QVOfferUICollectionViewCell.h"
+#include "QVOffer.h"
+#include "QVSort.h"
+
+#include <QtCore/QPointer>
+#include <QtCore/QAbstractItemModel>
+#include <QtQuick/QQuickItem>
+
+#include <optional>
+
+class QPropertyAnimation;
+class QVOffersListModel;
+class QVPayoutFormatter;
+
+// The host's listener: told once, when the user presses close.
+class QUORVAMEDIA_EXPORT QVOffersViewControllerDelegate
+{
+public:
+    virtual ~QVOffersViewControllerDelegate() = default;
+    virtual void onCloseOffersVCPressed() = 0;
+};
+
+// The offer wall. Create it with newOffersWallForPublisherId(), parent it into a window
+// and size it; it loads its first page when it is first shown in a window. QML hosts
+// can declare it as QVOffersViewController { pubId: ...; corvelId: ...; subId1: ... }.
+class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
+                                                  public QVOfferUICollectionViewCellDelegate,
+                                                  public QVFiltersViewControllerDelegate
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(QVOffersViewControllerBase)
+    Q_PROPERTY(QString pubId READ pubId WRITE setPubId NOTIFY identifiersChanged FINAL)
+    Q_PROPERTY(QString corvelId READ corvelId WRITE setCorvelId NOTIFY identifiersChanged FINAL)
+    Q_PROPERTY(QString subId1 READ subId1 WRITE setSubId1 NOTIFY identifiersChanged FINAL)
+    Q_PROPERTY(int gender READ gender WRITE setGender NOTIFY targetingChanged FINAL)
+    Q_PROPERTY(int ageRange READ ageRange WRITE setAgeRange NOTIFY targetingChanged FINAL)
+    Q_PROPERTY(QString subid2 READ subid2 WRITE setSubid2 NOTIFY targetingChanged FINAL)
+    Q_PROPERTY(QString subid3 READ subid3 WRITE setSubid3 NOTIFY targetingChanged FINAL)
+    Q_PROPERTY(QString subid4 READ subid4 WRITE setSubid4 NOTIFY targetingChanged FINAL)
+    Q_PROPERTY(QQuickItem *headerView MEMBER m_headerView NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *headerTitle MEMBER m_headerTitle NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *closeBtn MEMBER m_closeBtn NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *filterBtn MEMBER m_filterBtn NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *supportBtn MEMBER m_supportBtn NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *collectionView MEMBER m_collectionView NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *noOffersLabel MEMBER m_noOffersLabel NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QObject *filterPopover MEMBER m_filterPopover NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QAbstractItemModel *offersModel READ offersModel CONSTANT FINAL)
+    Q_PROPERTY(QSizeF cellSize READ cellSize NOTIFY cellSizeChanged FINAL)
+    Q_PROPERTY(qreal sectionInsetTop READ sectionInsetTop CONSTANT FINAL)
+    Q_PROPERTY(qreal headerHeight READ headerHeight CONSTANT FINAL)
+    Q_PROPERTY(qreal popoverWidth READ popoverWidth CONSTANT FINAL)
+    Q_PROPERTY(bool loadingOffers READ loadingOffers NOTIFY loadingOffersChanged FINAL)
+    Q_PROPERTY(bool filtersViewOpen READ isFiltersViewOpen NOTIFY overlaysChanged FINAL)
+
+public:
+    explicit QVOffersViewController(QQuickItem *parent = nullptr);
+    ~QVOffersViewController() override;
+
+    static QVOffersViewController *newOffersWallForPublisherId(const QString &pubId, const QString &corvelId,
+                                                               const QString &subId1,
+                                                               QVOffersViewControllerDelegate *delegate);
+    static QString identifier() { return QStringLiteral("QVOffersViewController"); }
+
+    QVOffersViewControllerDelegate *delegate() const { return m_delegate; }
+    void setDelegate(QVOffersViewControllerDelegate *delegate) { m_delegate = delegate; }
+
+    // Identifiers and targeting live on the shared client and apply to every later
+    // request of the process. The targeting getters report the initial value: the
+    // setters only pass the value on.
+    QString pubId() const;
+    void setPubId(const QString &value);
+    QString corvelId() const;
+    void setCorvelId(const QString &value);
+    QString subId1() const;
+    void setSubId1(const QString &value);
+    int gender() const { return 0; }
+    void setGender(int gender);
+    int ageRange() const { return 0; }
+    void setAgeRange(int ageRange);
+    QString subid2() const { return {}; }
+    void setSubid2(const QString &value);
+    QString subid3() const { return {}; }
+    void setSubid3(const QString &value);
+    QString subid4() const { return {}; }
+    void setSubid4(const QString &value);
+
+    // Cell size for a list of the given width: two columns above 600 points.
+    static QSizeF sizeForItem(qreal viewWidth);
+    QSizeF cellSize() const { return sizeForItem(width()); }
+    static qreal sectionInsetTop() { return 5; }
+    static qreal headerHeight() { return 64; }
+    static qreal popoverWidth() { return 360; }
+    static qreal popoverHeightRatio() { return 0.65; }
+
+    QAbstractItemModel *offersModel() const;
+    const QList<QVOffer> &offersList() const;
+    bool loadingOffers() const { return m_loadingOffers; }
+    bool moreOffersAvailable() const { return m_moreOffersAvailable; }
+    bool isFiltersViewOpen() const { return m_isFiltersViewOpen; }
+    bool isSupportViewOpen() const { return m_isSupportViewOpen; }
+    QVFiltersViewController *filterVC() const { return m_filterVC; }
+    std::optional<QVSort> sortParam() const { return m_sortParam; }
+    std::optional<QVCategory> categoryParam() const { return m_categoryParam; }
+
+    Q_INVOKABLE void onClosePressed();
+    Q_INVOKABLE void onFilterPressed();
+    Q_INVOKABLE void onSupportPressed();
+    Q_INVOKABLE void headerTapped();
+    Q_INVOKABLE void popoverDidPresent();
+    Q_INVOKABLE void popoverDidDismiss();
+    void closeFiltersView();
+    void closeSupportView();
+    void loadMoreOffers();
+
+    void onCreditsPressed(const QString &clickURL) override;
+    void configureCell(QVOfferUICollectionViewCell *cell, int row) override;
+    void onSaveFiltersPressed(const std::optional<QVCategory> &category, const QVSort &sort) override;
+
+signals:
+    void closePressed();
+    void identifiersChanged();
+    void targetingChanged();
+    void outletsChanged();
+    void cellSizeChanged();
+    void loadingOffersChanged();
+    void overlaysChanged();
+
+protected:
+    void itemChange(ItemChange change, const ItemChangeData &value) override;
+    void componentComplete() override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+    void updatePolish() override;
+
+private:
+    void viewDidLoad();
+    void reloadData();
+    void setLoadingOffers(bool loading);
+    void setHeaderText(const QString &text);
+    QString headerText() const;
+    void showFailureAlert();
+    void presentFilterPopover();
+    void dismissFilterPopover();
+    void slideFilterPanel(qreal toY, bool open);
+    void layoutFilterPanel();
+    qreal listHeight() const;
+
+    QVOffersViewControllerDelegate *m_delegate = nullptr;
+    QVOffersListModel *m_offers = nullptr;
+    std::unique_ptr<QVPayoutFormatter> m_numberFormatter;
+    bool m_loaded = false;
+    bool m_loadingOffers = false;
+    bool m_moreOffersAvailable = false;
+    std::optional<QVSort> m_sortParam;
+    std::optional<QVCategory> m_categoryParam;
+    QPointer<QVFiltersViewController> m_filterVC;
+    QPointer<QQuickItem> m_blurView;
+    QPointer<QPropertyAnimation> m_filterAnimation;
+    QString m_lastHeaderTitle;
+    bool m_isFiltersViewOpen = false;
+    bool m_isSupportViewOpen = false;
+
+    // Outlets: children laid out by the interface file.
+    QQuickItem *m_headerView = nullptr;
+    QQuickItem *m_headerTitle = nullptr;
+    QQuickItem *m_closeBtn = nullptr;
+    QQuickItem *m_filterBtn = nullptr;
+    QQuickItem *m_supportBtn = nullptr;
+    QQuickItem *m_collectionView = nullptr;
+    QQuickItem *m_noOffersLabel = nullptr;
+    QObject *m_filterPopover = nullptr;
+};

@@ -1,0 +1,53 @@
+# Screens, cells, UI utilities and the interface files they are laid out by.
+list(APPEND QUORVA_PUBLIC_HEADERS
+    wall/QVOffersViewController.h
+    wall/QVOfferUICollectionViewCell.h
+    wall/QVFiltersViewController.h
+    wall/QVFilterCells.h
+    ui/QVImageView.h
+    ui/QVImageCache.h
+    ui/QVColor.h
+)
+
+set(QUORVA_UI_SOURCES
+    ui/QVColor.cpp
+    ui/QVSpringCurve.h ui/QVSpringCurve.cpp
+    ui/QVImageCache.cpp
+    ui/QVImageView.cpp
+    ui/QVComponentFactory.h ui/QVComponentFactory.cpp
+    ui/QVAlertPresenter.h ui/QVAlertPresenter.cpp
+    wall/QVPayoutFormatter.h wall/QVPayoutFormatter.cpp
+    wall/QVOffersListModel.h wall/QVOffersListModel.cpp
+    wall/QVOffersViewController.cpp
+    wall/QVOfferUICollectionViewCell.cpp
+    wall/QVFiltersViewController.cpp
+    wall/QVFilterListModel.h wall/QVFilterListModel.cpp
+    wall/QVFilterCells.cpp
+)
+
+set(QUORVA_QML_FILES
+    resources/qml/QVOffersViewController.qml
+    resources/qml/QVOfferUICollectionViewCell.qml
+    resources/qml/QVFiltersViewController.qml
+    resources/qml/QVFilterUICollectionViewCell.qml
+    resources/qml/QVFilterUICollectionViewHeader.qml
+    resources/qml/QVAlert.qml
+    resources/qml/QVBlurView.qml
+    resources/qml/HeaderButtonBackground.qml
+)
+set(QUORVA_RESOURCE_FILES
+    resources/icons/close.svg
+    resources/icons/filter.svg
+    resources/icons/support.svg
+    resources/icons/checkmark.svg
+)
+
+# Interface files and icons sit flat in the module, as the types are named.
+foreach(file IN LISTS QUORVA_QML_FILES)
+    get_filename_component(name ${file} NAME)
+    set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${name})
+endforeach()
+foreach(file IN LISTS QUORVA_RESOURCE_FILES)
+    get_filename_component(name ${file} NAME)
+    set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS icons/${name})
+endforeach()

@@ -1,0 +1,183 @@
+#include "ScriptedServer.h"
+
+#include <QuorvaMedia/QuorvaMedia.h>
+
+#include <QtCore/QBuffer>
+#include <QtGui/QImage>
+#include <QtQuick/QQuickWindow>
+#include <QtTest/QtTest>
+
+using quorva::http::HttpRequest;
+using quorva::http::HttpResponse;
+
+namespace {
+QByteArray pngOf(const QColor &color)
+{
+    QImage image(8, 8, QImage::Format_ARGB32);
+    image.fill(color);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
+}
+} // namespace
+
+// Picture loading in a real window over loopback.
+class tst_QVImageView : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cachedAddressShowsAtOnceWithoutRequest();
+    void failedLoadKeepsThePicture();
+    void nonPictureClearsThePicture();
+    void twoViewsWithOneUncachedAddressFetchTwice();
+    void startedDownloadRunsOnAfterNewAddress();
+    void cacheIsBoundedByBytes();
+    void laterAddressCancelsDownloadNotYetStarted();
+
+private:
+    QUrl address(const QString &path) const
+    {
+        return QUrl(QStringLiteral("https://%1%2").arg(m_server.baseAddress(), path));
+    }
+    QVImageView *newView();
+
+    ScriptedServer m_server;
+    QQuickWindow m_window;
+};
+
+void tst_QVImageView::initTestCase()
+{
+    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_server.caCertificates());
+    m_window.resize(200, 200);
+    m_window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&m_window));
+    const QByteArray red = pngOf(Qt::red);
+    const QByteArray blue = pngOf(Qt::blue);
+    m_server.respond([red, blue](const HttpRequest &request) {
+        if (request.path.starts_with("/red"))
+            return HttpResponse::json(200, red.toStdString());
+        if (request.path.starts_with("/blue"))
+            return HttpResponse::json(200, blue.toStdString());
+        if (request.path.starts_with("/page"))
+            return HttpResponse::json(404, "<html>not a picture</html>");
+        HttpResponse dropped;
+        dropped.fault = HttpResponse::Fault::DropConnection;
+        return dropped;
+    });
+}
+
+void tst_QVImageView::init()
+{
+    QVImageCache::sharedImageCache()->clear();
+    QVImageCache::sharedImageCache()->setLimitBytes(QVImageCache::kDefaultLimitBytes);
+    m_server.clearRequests();
+}
+
+QVImageView *tst_QVImageView::newView()
+{
+    auto *view = new QVImageView(m_window.contentItem());
+    view->setSize({40, 40});
+    return view;
+}
+
+void tst_QVImageView::cachedAddressShowsAtOnceWithoutRequest()
+{
+    std::unique_ptr<QVImageView> first(newView());
+    first->setImageWithURL(address(QStringLiteral("/red/1.png")));
+    QVERIFY(!first->hasImage()); // nothing until the download lands
+    QTRY_VERIFY(first->hasImage());
+    QCOMPARE(first->image().pixelColor(0, 0), QColor(Qt::red));
+    QCOMPARE(m_server.requestCount(), 1);
+    QVERIFY(m_server.lastRequest().header("user-agent").find("Quorva-SDK") == std::string::npos);
+
+    std::unique_ptr<QVImageView> second(newView());
+    second->setImageWithURL(address(QStringLiteral("/red/1.png")));
+    QVERIFY2(second->hasImage(), "a cached picture is shown synchronously");
+    QTest::qWait(100);
+    QCOMPARE(m_server.requestCount(), 1);
+}
+
+void tst_QVImageView::failedLoadKeepsThePicture()
+{
+    std::unique_ptr<QVImageView> view(newView());
+    view->setImageWithURL(address(QStringLiteral("/blue/2.png")));
+    QTRY_VERIFY(view->hasImage());
+    QSignalSpy changed(view.get(), &QVImageView::imageChanged);
+    view->setImageWithURL(address(QStringLiteral("/dropped/3.png")));
+    // The network layer may retry a dropped GET once; the outcome is the same.
+    QTRY_VERIFY(m_server.requestCount() >= 2);
+    QTest::qWait(300);
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(view->image().pixelColor(0, 0), QColor(Qt::blue));
+    QVERIFY(!QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/dropped/3.png")).toString()));
+}
+
+void tst_QVImageView::nonPictureClearsThePicture()
+{
+    std::unique_ptr<QVImageView> view(newView());
+    view->setImageWithURL(address(QStringLiteral("/blue/4.png")));
+    QTRY_VERIFY(view->hasImage());
+    view->setImageWithURL(address(QStringLiteral("/page/5.png")));
+    QTRY_VERIFY(!view->hasImage());
+    QVERIFY(!QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/page/5.png")).toString()));
+}
+
+void tst_QVImageView::twoViewsWithOneUncachedAddressFetchTwice()
+{
+    std::unique_ptr<QVImageView> a(newView());
+    std::unique_ptr<QVImageView> b(newView());
+    a->setImageWithURL(address(QStringLiteral("/red/6.png")));
+    b->setImageWithURL(address(QStringLiteral("/red/6.png")));
+    QTRY_VERIFY(a->hasImage() && b->hasImage());
+    QCOMPARE(m_server.requestCount(), 2);
+}
+
+void tst_QVImageView::startedDownloadRunsOnAfterNewAddress()
+{
+    // Kept on purpose: once an earlier download has started, giving the view a new
+    // uncached address does not stop it, and both pictures arrive.
+    std::unique_ptr<QVImageView> view(newView());
+    view->setImageWithURL(address(QStringLiteral("/red/9.png")));
+    QTRY_COMPARE(m_server.requestCount(), 1);
+    view->setImageWithURL(address(QStringLiteral("/blue/10.png")));
+    QTRY_COMPARE(m_server.requestCount(), 2);
+    QTRY_VERIFY(QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/red/9.png")).toString()));
+    QTRY_VERIFY(QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/blue/10.png")).toString()));
+    QVERIFY(view->hasImage());
+}
+
+void tst_QVImageView::cacheIsBoundedByBytes()
+{
+    QVImageCache *cache = QVImageCache::sharedImageCache();
+    cache->setLimitBytes(64 * 1024);
+    QImage big(64, 64, QImage::Format_ARGB32_Premultiplied); // 16 KiB each
+    for (int i = 0; i < 20; ++i) {
+        big.fill(QColor(i, 0, 0));
+        cache->insert(QStringLiteral("k%1").arg(i), big.copy());
+        QVERIFY(cache->totalBytes() <= cache->limitBytes());
+    }
+    QVERIFY(cache->count() <= 4);
+    QVERIFY(cache->contains(QStringLiteral("k19")));
+    QVERIFY(!cache->contains(QStringLiteral("k0")));
+}
+
+void tst_QVImageView::laterAddressCancelsDownloadNotYetStarted()
+{
+    std::unique_ptr<QVImageView> view(newView());
+    // Both calls in one pass: the first download is cancelled before it starts.
+    view->setImageWithURL(address(QStringLiteral("/red/7.png")));
+    view->setImageWithURL(address(QStringLiteral("/blue/8.png")));
+    QTRY_VERIFY(view->hasImage());
+    QTest::qWait(200);
+    QCOMPARE(view->image().pixelColor(0, 0), QColor(Qt::blue));
+    QCOMPARE(m_server.requestCount(), 1);
+    QCOMPARE(m_server.lastRequest().path, std::string("/blue/8.png"));
+}
+
+QTEST_MAIN(tst_QVImageView)
+#include "tst_QVImageView.moc"

@@ -1,0 +1,1 @@
+quorva_add_test(tst_QVImageView)

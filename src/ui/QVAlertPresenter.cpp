@@ -16,6 +16,7 @@ QObject *QVAlertPresenter::present(QQuickItem *over, const QString &title, const
         return nullptr;
     // The alert belongs to the item it covers and removes itself once dismissed.
     alert->setParent(over);
+    QObject::connect(alert, SIGNAL(closed()), alert, SLOT(deleteLater()));
     QMetaObject::invokeMethod(alert, "open");
     return alert;
 }

@@ -4,6 +4,7 @@ import Qt5Compat.GraphicalEffects
 // A frosted, extra-light blur of the item beneath.
 Item {
     id: root
+    objectName: "blurredView"
     property Item sourceItem
 
     ShaderEffectSource {

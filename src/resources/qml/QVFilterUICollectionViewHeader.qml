@@ -17,7 +17,8 @@ QVFilterUICollectionViewHeaderBase {
         anchors.bottom: parent.bottom
         anchors.leftMargin: 20
         anchors.bottomMargin: 8
-        text: header.title.toUpperCase()
+        text: header.title
+        font.capitalization: Font.AllUppercase
         font.pixelSize: 13
         font.bold: true
         font.letterSpacing: 0.8

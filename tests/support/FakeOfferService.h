@@ -1,0 +1,41 @@
+#pragma once
+
+#include "ScriptedServer.h"
+
+#include <QtCore/QMap>
+#include <QtCore/QString>
+
+#include <atomic>
+#include <chrono>
+#include <mutex>
+
+// A scripted offer service on loopback with knobs for the wall's tests: how many
+// offers exist, how slow the answers are, and which endpoints fail.
+class FakeOfferService
+{
+public:
+    FakeOfferService();
+
+    ScriptedServer &server() { return m_server; }
+    QString baseAddress() const { return m_server.baseAddress(); }
+
+    void setTotalOffers(int total) { m_total = total; }
+    void setOffersDelay(std::chrono::milliseconds delay) { m_delayMs = int(delay.count()); }
+    void setOffersDropped(bool dropped) { m_offersDropped = dropped; }
+    void setProfileDropped(bool dropped) { m_profileDropped = dropped; }
+    void setCategoriesDropped(bool dropped) { m_categoriesDropped = dropped; }
+    void setPayout(int payout) { m_payout = payout; }
+
+    // Query pairs of every offers request so far, oldest first.
+    QList<QMap<QString, QString>> offersQueries() const;
+    int requestsTo(const std::string &pathSuffix) const;
+
+private:
+    ScriptedServer m_server;
+    std::atomic<int> m_total{95};
+    std::atomic<int> m_delayMs{0};
+    std::atomic<bool> m_offersDropped{false};
+    std::atomic<bool> m_profileDropped{false};
+    std::atomic<bool> m_categoriesDropped{false};
+    std::atomic<int> m_payout{1500};
+};

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QuorvaMedia/QuorvaMedia.h>
+
+#include <QtQuick/QQuickItem>
+#include <QtQuick/QQuickWindow>
+#include <QtTest/QtTest>
+
+#include <memory>
+
+// A host window with one wall in it, created through the public factory.
+class WallHarness : public QVOffersViewControllerDelegate
+{
+public:
+    explicit WallHarness(QSize size = {390, 780}, const QString &wallId = QStringLiteral("7"))
+    {
+        window = std::make_unique<QQuickWindow>();
+        window->resize(size);
+        wall = QVOffersViewController::newOffersWallForPublisherId(QStringLiteral("1042"), wallId,
+                                                                   QStringLiteral("user-1"), this);
+    }
+    ~WallHarness() override
+    {
+        delete wall;
+    }
+
+    // Putting the wall into the shown window is what loads it.
+    bool show()
+    {
+        wall->setParentItem(window->contentItem());
+        wall->setSize(window->size());
+        window->show();
+        return QTest::qWaitForWindowExposed(window.get());
+    }
+
+    void resize(QSize size)
+    {
+        window->resize(size);
+        wall->setSize(size);
+    }
+
+    template <typename T = QQuickItem>
+    T *find(const QString &objectName) const
+    {
+        return wall->findChild<T *>(objectName);
+    }
+
+    QQuickItem *list() const { return find(QStringLiteral("collectionView")); }
+
+    // Cells currently laid out in the list, in row order.
+    QList<QVOfferUICollectionViewCell *> cells() const
+    {
+        QList<QVOfferUICollectionViewCell *> result;
+        auto *content = list()->property("contentItem").value<QQuickItem *>();
+        for (QQuickItem *child : content->childItems()) {
+            auto *cell = qobject_cast<QVOfferUICollectionViewCell *>(child);
+            if (cell && cell->isVisible() && cell->row() >= 0)
+                result.append(cell);
+        }
+        std::sort(result.begin(), result.end(), [](auto *a, auto *b) { return a->row() < b->row(); });
+        return result;
+    }
+
+    void scrollToEnd() const { QMetaObject::invokeMethod(list(), "positionViewAtEnd"); }
+    void scrollToStart() const { QMetaObject::invokeMethod(list(), "positionViewAtBeginning"); }
+
+    void click(QQuickItem *item) const
+    {
+        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+        QTest::mouseClick(window.get(), Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+    }
+
+    QObject *alert() const { return wall->findChild<QObject *>(QStringLiteral("alert")); }
+
+    void onCloseOffersVCPressed() override { ++closePresses; }
+
+    std::unique_ptr<QQuickWindow> window;
+    QVOffersViewController *wall = nullptr;
+    int closePresses = 0;
+};

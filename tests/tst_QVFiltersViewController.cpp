@@ -1,0 +1,319 @@
+#include "FakeOfferService.h"
+#include "WallHarness.h"
+
+namespace {
+// The panel's rows by their text.
+QMap<QString, QVFilterUICollectionViewCell *> rowsOf(QVFiltersViewController *panel)
+{
+    QMap<QString, QVFilterUICollectionViewCell *> rows;
+    auto *list = panel->findChild<QQuickItem *>(QStringLiteral("collectionView"));
+    auto *content = list->property("contentItem").value<QQuickItem *>();
+    for (QQuickItem *child : content->childItems()) {
+        if (auto *cell = qobject_cast<QVFilterUICollectionViewCell *>(child); cell && cell->isVisible()) {
+            auto *name = cell->findChild<QQuickItem *>(QStringLiteral("name"));
+            rows.insert(name->property("text").toString(), cell);
+        }
+    }
+    return rows;
+}
+
+QStringList checkedRows(QVFiltersViewController *panel)
+{
+    QStringList checked;
+    const auto rows = rowsOf(panel);
+    for (auto it = rows.cbegin(); it != rows.cend(); ++it) {
+        if (it.value()->findChild<QQuickItem *>(QStringLiteral("checkmarkImage"))->isVisible())
+            checked << it.key();
+    }
+    return checked;
+}
+
+QStringList headerTitles(QVFiltersViewController *panel)
+{
+    QStringList titles;
+    for (auto *header : panel->findChildren<QVFilterUICollectionViewHeader *>())
+        titles << header->findChild<QQuickItem *>(QStringLiteral("name"))->property("text").toString();
+    return titles;
+}
+} // namespace
+
+class tst_QVFiltersViewController : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void phonePanelDropsInUnderTheHeader();
+    void selectionRulesAndSavingReloadsFromZero();
+    void savedChoiceReopensCheckedAndCategoriesLoadOnce();
+    void headerTapAndSupportPressCloseThePanel();
+    void savingWhileAPageIsInFlight();
+    void tabletPopover();
+    void categoriesFailure();
+
+private:
+    QVFiltersViewController *openPanel(WallHarness &harness);
+    FakeOfferService m_service;
+};
+
+void tst_QVFiltersViewController::initTestCase()
+{
+    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
+}
+
+void tst_QVFiltersViewController::init()
+{
+    QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
+    QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
+    QVFiltersViewController::resetAllCategories();
+    m_service.setOffersDelay(std::chrono::milliseconds(0));
+    m_service.setCategoriesDropped(false);
+    m_service.server().clearRequests();
+}
+
+QVFiltersViewController *tst_QVFiltersViewController::openPanel(WallHarness &harness)
+{
+    harness.click(harness.find(QStringLiteral("filterBtn")));
+    QVFiltersViewController *panel = harness.wall->filterVC();
+    if (!panel)
+        return nullptr;
+    const bool settled = QTest::qWaitFor([&] { return QVDevice::isTablet() || panel->y() == 0.0; }, 5000)
+        && QTest::qWaitFor([&] { return rowsOf(panel).size() >= 4; }, 5000);
+    return settled ? panel : nullptr;
+}
+
+void tst_QVFiltersViewController::phonePanelDropsInUnderTheHeader()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    QQuickItem *title = harness.find(QStringLiteral("headerTitle"));
+    QTRY_COMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
+
+    harness.click(harness.find(QStringLiteral("filterBtn")));
+    QVFiltersViewController *panel = harness.wall->filterVC();
+    QVERIFY(panel);
+    QCOMPARE(panel->parentItem(), harness.wall);
+    QVERIFY(panel->y() < 0); // starts above, out of sight
+    QCOMPARE(title->property("text").toString(), QStringLiteral("Sort/Filter Offers"));
+    QVERIFY(!harness.find(QStringLiteral("closeBtn"))->isVisible());
+    QVERIFY(harness.wall->isFiltersViewOpen());
+    QVERIFY(panel->findChild<QQuickItem *>(QStringLiteral("blurredView")));
+    QVERIFY(harness.find(QStringLiteral("headerView"))->z() > panel->z());
+
+    // The spring overshoots past its rest position before settling there.
+    qreal lowest = panel->y();
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 1300) {
+        lowest = qMax(lowest, panel->y());
+        QTest::qWait(5);
+    }
+    QVERIFY2(lowest > 1.0, qPrintable(QString::number(lowest)));
+    QCOMPARE(panel->y(), 0.0);
+    QCOMPARE(panel->size(), harness.wall->size());
+
+    QTRY_COMPARE(checkedRows(panel), (QStringList{"All Categories", "Popularity"}));
+    QCOMPARE(headerTitles(panel).size(), 2);
+    QVERIFY(headerTitles(panel).contains(QStringLiteral("Sort by Type")));
+    QVERIFY(headerTitles(panel).contains(QStringLiteral("Sort by Category")));
+    QStringList names = rowsOf(panel).keys();
+    QCOMPARE(names.size(), 8);
+    QVERIFY(names.contains(QStringLiteral("Payout: High to Low")));
+    QVERIFY(names.contains(QStringLiteral("Credit Delay")));
+    QVERIFY(names.contains(QStringLiteral("Featured")));
+    QVERIFY(names.contains(QStringLiteral("Travel")));
+    QVERIFY(!panel->findChild<QQuickItem *>(QStringLiteral("saveButton"))->isVisible());
+}
+
+void tst_QVFiltersViewController::selectionRulesAndSavingReloadsFromZero()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    harness.scrollToEnd();
+    QTRY_COMPARE(harness.wall->offersList().size(), 60);
+    QTRY_COMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
+    QVFiltersViewController *panel = openPanel(harness);
+    QVERIFY(panel);
+    QQuickItem *save = panel->findChild<QQuickItem *>(QStringLiteral("saveButton"));
+
+    harness.click(rowsOf(panel).value(QStringLiteral("Popularity")));
+    QTest::qWait(50);
+    QVERIFY2(!save->isVisible(), "tapping the checked row changes nothing");
+
+    harness.click(rowsOf(panel).value(QStringLiteral("Trending")));
+    QTRY_COMPARE(checkedRows(panel), (QStringList{"All Categories", "Trending"}));
+    QVERIFY(save->isVisible());
+    harness.click(rowsOf(panel).value(QStringLiteral("Featured")));
+    QTRY_COMPARE(checkedRows(panel), (QStringList{"Featured", "Trending"}));
+
+    const int before = m_service.requestsTo("/offers.json");
+    harness.click(save);
+    QTRY_COMPARE(m_service.requestsTo("/offers.json"), before + 1);
+    const auto query = m_service.offersQueries().last();
+    QCOMPARE(query.value("offset"), QStringLiteral("0"));
+    QCOMPARE(query.value("sort_by"), QStringLiteral("trending"));
+    QCOMPARE(query.value("featured_only"), QStringLiteral("1"));
+    QVERIFY(!query.contains("category_id"));
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    QVERIFY(!harness.wall->isFiltersViewOpen());
+    QVERIFY(harness.find(QStringLiteral("closeBtn"))->isVisible());
+    QCOMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
+    QTRY_VERIFY(harness.wall->filterVC() == nullptr); // slid out and detached
+}
+
+void tst_QVFiltersViewController::savedChoiceReopensCheckedAndCategoriesLoadOnce()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    QVFiltersViewController *panel = openPanel(harness);
+    harness.click(rowsOf(panel).value(QStringLiteral("Games")));
+    harness.click(rowsOf(panel).value(QStringLiteral("Payout: High to Low")));
+    harness.click(panel->findChild<QQuickItem *>(QStringLiteral("saveButton")));
+    QTRY_VERIFY(harness.wall->filterVC() == nullptr);
+    const auto query = m_service.offersQueries().last();
+    QCOMPARE(query.value("category_id"), QStringLiteral("3"));
+    QCOMPARE(query.value("sort_by"), QStringLiteral("payout"));
+    QVERIFY(!query.contains("featured_only"));
+
+    panel = openPanel(harness);
+    QTRY_COMPARE(checkedRows(panel), (QStringList{"Games", "Payout: High to Low"}));
+    QCOMPARE(m_service.requestsTo("/categories.json"), 1);
+
+    // "All Categories" sends neither a category nor the featured flag.
+    harness.click(rowsOf(panel).value(QStringLiteral("All Categories")));
+    harness.click(panel->findChild<QQuickItem *>(QStringLiteral("saveButton")));
+    QTRY_VERIFY(harness.wall->filterVC() == nullptr);
+    const auto all = m_service.offersQueries().last();
+    QVERIFY(!all.contains("category_id"));
+    QVERIFY(!all.contains("featured_only"));
+}
+
+void tst_QVFiltersViewController::headerTapAndSupportPressCloseThePanel()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
+    QVERIFY(openPanel(harness));
+    QQuickItem *header = harness.find(QStringLiteral("headerView"));
+    QTest::mouseClick(harness.window.get(), Qt::LeftButton, Qt::NoModifier,
+                      header->mapToScene(QPointF(header->width() / 2 + 60, header->height() / 2)).toPoint());
+    QVERIFY(!harness.wall->isFiltersViewOpen());
+    QVERIFY(harness.find(QStringLiteral("closeBtn"))->isVisible());
+    QCOMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
+    QTRY_VERIFY(harness.wall->filterVC() == nullptr);
+
+    // The same button closes it again; the support button only closes it.
+    QVERIFY(openPanel(harness));
+    harness.click(harness.find(QStringLiteral("supportBtn")));
+    QVERIFY(!harness.wall->isFiltersViewOpen());
+    QVERIFY(!harness.wall->isSupportViewOpen());
+    QVERIFY(openPanel(harness));
+    harness.click(harness.find(QStringLiteral("filterBtn")));
+    QVERIFY(!harness.wall->isFiltersViewOpen());
+}
+
+void tst_QVFiltersViewController::savingWhileAPageIsInFlight()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    QVFiltersViewController *panel = openPanel(harness);
+    harness.click(rowsOf(panel).value(QStringLiteral("Trending")));
+    m_service.setOffersDelay(std::chrono::milliseconds(500));
+    harness.wall->loadMoreOffers(); // the page for offset 30 is now in flight
+    QVERIFY(harness.wall->loadingOffers());
+    harness.click(panel->findChild<QQuickItem *>(QStringLiteral("saveButton")));
+    // The list is emptied, but the new first page is dropped by the paging guard; the
+    // old filter's late page lands in the emptied list.
+    QCOMPARE(harness.wall->offersList().size(), 0);
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    QCOMPARE(harness.wall->offersList().first().offerId(), QStringLiteral("30"));
+    QCOMPARE(m_service.requestsTo("/offers.json"), 2);
+}
+
+void tst_QVFiltersViewController::tabletPopover()
+{
+    QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Tablet);
+    WallHarness harness({1024, 768});
+    QVERIFY(harness.show());
+    QQuickItem *title = harness.find(QStringLiteral("headerTitle"));
+    QTRY_COMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
+    QObject *popover = harness.wall->findChild<QObject *>(QStringLiteral("filterPopover"));
+    QVERIFY(popover);
+
+    QVFiltersViewController *panel = openPanel(harness);
+    QVERIFY(panel);
+    QTRY_VERIFY(popover->property("opened").toBool());
+    QCOMPARE(popover->property("closePolicy").toInt(), 0); // a tap outside no longer closes it
+    QCOMPARE(popover->property("width").toReal(), 360.0);
+    QCOMPARE(popover->property("height").toReal(), 768 * 0.65);
+    QQuickItem *filterButton = harness.find(QStringLiteral("filterBtn"));
+    const QRectF button = filterButton->mapRectToItem(harness.wall, filterButton->boundingRect());
+    QCOMPARE(popover->property("x").toReal() + popover->property("arrowX").toReal(), button.center().x());
+    QCOMPARE(popover->property("y").toReal(), button.bottom());
+    QCOMPARE(panel->topMargin(), QVFiltersViewController::kTabletTopMargin);
+    QVERIFY(!harness.wall->isFiltersViewOpen());
+    QVERIFY(harness.find(QStringLiteral("closeBtn"))->isVisible());
+    QCOMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
+
+    QTest::mouseClick(harness.window.get(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 500));
+    QTest::qWait(100);
+    QVERIFY(popover->property("visible").toBool());
+
+    // A size transition (rotation) takes it away.
+    harness.resize({768, 1024});
+    QTRY_VERIFY(!popover->property("visible").toBool());
+    QTRY_VERIFY(harness.wall->filterVC() == nullptr);
+
+    panel = openPanel(harness);
+    QTRY_VERIFY(popover->property("opened").toBool());
+    harness.click(rowsOf(panel).value(QStringLiteral("Credit Delay")));
+    harness.click(panel->findChild<QQuickItem *>(QStringLiteral("saveButton")));
+    QTRY_VERIFY(!popover->property("visible").toBool());
+    QTRY_COMPARE(m_service.offersQueries().last().value("sort_by"), QStringLiteral("credit_delay"));
+    QCOMPARE(m_service.offersQueries().last().value("offset"), QStringLiteral("0"));
+    // No phone overlay was ever opened, so the restored header text is empty.
+    QCOMPARE(title->property("text").toString(), QString());
+}
+
+void tst_QVFiltersViewController::categoriesFailure()
+{
+    m_service.setCategoriesDropped(true);
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    QTest::ignoreMessage(QtInfoMsg, "Categories request failed");
+    harness.click(harness.find(QStringLiteral("filterBtn")));
+    QVFiltersViewController *panel = harness.wall->filterVC();
+    QTRY_VERIFY(panel->findChild<QObject *>(QStringLiteral("alert")) != nullptr);
+    QObject *alert = panel->findChild<QObject *>(QStringLiteral("alert"));
+    QCOMPARE(alert->property("title").toString(), QStringLiteral("No Connection"));
+    QCOMPARE(alert->property("message").toString(), QStringLiteral("Please check your internet and try again."));
+    QVERIFY(!QVFiltersViewController::allCategories().has_value());
+    QCOMPARE(panel->model()->rowCount(), 4);
+    QTRY_VERIFY(alert->property("opened").toBool());
+    harness.click(panel->findChild<QQuickItem *>(QStringLiteral("alertAction")));
+    QTRY_VERIFY(panel->findChild<QObject *>(QStringLiteral("alert")) == nullptr);
+
+    QTRY_COMPARE(panel->y(), 0.0);
+    harness.click(rowsOf(panel).value(QStringLiteral("Trending")));
+    harness.click(panel->findChild<QQuickItem *>(QStringLiteral("saveButton")));
+    QTRY_COMPARE(m_service.offersQueries().last().value("sort_by"), QStringLiteral("trending"));
+    QVERIFY(!m_service.offersQueries().last().contains("category_id"));
+    QVERIFY(!m_service.offersQueries().last().contains("featured_only"));
+
+    // The next panel tries again.
+    m_service.setCategoriesDropped(false);
+    QTRY_VERIFY(harness.wall->filterVC() == nullptr);
+    panel = openPanel(harness);
+    QTRY_COMPARE(rowsOf(panel).size(), 8);
+    QCOMPARE(m_service.requestsTo("/categories.json") >= 2, true);
+}
+
+QTEST_MAIN(tst_QVFiltersViewController)
+#include "tst_QVFiltersViewController.moc"

@@ -1,0 +1,331 @@
+#include "FakeOfferService.h"
+#include "WallHarness.h"
+
+#include <QtGui/QDesktopServices>
+
+// Records the addresses the wall hands to the system browser.
+class BrowserProbe : public QObject
+{
+    Q_OBJECT
+public:
+    QList<QUrl> opened;
+public slots:
+    void open(const QUrl &url) { opened.append(url); }
+};
+
+class tst_QVOffersViewController : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+
+    void loadsWhenFirstShownWithTargetingApplied();
+    void pagesAsTheListScrolls();
+    void lastCellShownOftenSendsOneRequest();
+    void endOfListStopsPaging();
+    void emptyListShowsLabel();
+    void failedPageAlertsAndScrollingRetries();
+    void profileTitleAndItsSilentFailure();
+    void cellSizes_data();
+    void cellSizes();
+    void twoColumnsInAWideWindow();
+    void cellShowsOfferAndPayout();
+    void payoutPressOpensClickAddress();
+    void targetingSetters_data();
+    void targetingSetters();
+    void closeButtonTellsTheHost();
+
+private:
+    FakeOfferService m_service;
+};
+
+void tst_QVOffersViewController::initTestCase()
+{
+    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
+    QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
+}
+
+void tst_QVOffersViewController::init()
+{
+    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+    api->setServiceBaseAddress(m_service.baseAddress());
+    api->setGender({});
+    api->setAgeRange({});
+    api->setSubId2({});
+    api->setSubId3({});
+    api->setSubId4({});
+    m_service.setTotalOffers(95);
+    m_service.setOffersDelay(std::chrono::milliseconds(0));
+    m_service.setOffersDropped(false);
+    m_service.setProfileDropped(false);
+    m_service.setPayout(1500);
+    m_service.server().clearRequests();
+    QVImageCache::sharedImageCache()->clear();
+}
+
+void tst_QVOffersViewController::loadsWhenFirstShownWithTargetingApplied()
+{
+    WallHarness harness;
+    harness.wall->setGender(1);
+    harness.wall->setAgeRange(2);
+    harness.wall->setSubid2(QStringLiteral("campaign"));
+    QTest::qWait(100);
+    QCOMPARE(m_service.requestsTo("/offers.json"), 0); // not loaded before it is shown
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    const auto query = m_service.offersQueries().first();
+    QCOMPARE(query.value("offset"), QStringLiteral("0"));
+    QCOMPARE(query.value("gender"), QStringLiteral("f"));
+    QCOMPARE(query.value("age_range_id"), QStringLiteral("3"));
+    QCOMPARE(query.value("subid2"), QStringLiteral("campaign"));
+    QCOMPARE(query.value("subid1"), QStringLiteral("user-1"));
+}
+
+void tst_QVOffersViewController::pagesAsTheListScrolls()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    QTest::qWait(100);
+    QCOMPARE(m_service.requestsTo("/offers.json"), 1); // the last cell is not built yet
+    harness.scrollToEnd();
+    QTRY_COMPARE(harness.wall->offersList().size(), 60);
+    harness.scrollToEnd();
+    QTRY_COMPARE(harness.wall->offersList().size(), 90);
+    const auto queries = m_service.offersQueries();
+    QCOMPARE(queries.size(), 3);
+    QCOMPARE(queries[1].value("offset"), QStringLiteral("30"));
+    QCOMPARE(queries[2].value("offset"), QStringLiteral("60"));
+    QCOMPARE(harness.list()->property("count").toInt(), 90);
+}
+
+void tst_QVOffersViewController::lastCellShownOftenSendsOneRequest()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    m_service.setOffersDelay(std::chrono::milliseconds(600));
+    for (int i = 0; i < 5; ++i) {
+        harness.scrollToEnd();
+        QTest::qWait(40);
+        harness.scrollToStart();
+        QTest::qWait(40);
+    }
+    harness.scrollToEnd();
+    QVERIFY(harness.wall->loadingOffers());
+    QTRY_COMPARE(harness.wall->offersList().size(), 60);
+    QCOMPARE(m_service.requestsTo("/offers.json"), 2);
+}
+
+void tst_QVOffersViewController::endOfListStopsPaging()
+{
+    m_service.setTotalOffers(40);
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    harness.scrollToEnd();
+    QTRY_COMPARE(harness.wall->offersList().size(), 40);
+    harness.scrollToEnd();
+    QTRY_VERIFY(!harness.wall->moreOffersAvailable()); // the service said no content
+    const int requests = m_service.requestsTo("/offers.json");
+    QCOMPARE(requests, 3);
+    harness.scrollToStart();
+    QTest::qWait(50);
+    harness.scrollToEnd();
+    QTest::qWait(200);
+    QCOMPARE(m_service.requestsTo("/offers.json"), requests);
+    QVERIFY(!harness.find(QStringLiteral("noOffersLabel"))->isVisible());
+}
+
+void tst_QVOffersViewController::emptyListShowsLabel()
+{
+    m_service.setTotalOffers(0);
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QQuickItem *label = harness.find(QStringLiteral("noOffersLabel"));
+    QVERIFY(label);
+    QTRY_VERIFY(label->isVisible());
+    QVERIFY(!harness.wall->moreOffersAvailable());
+    QTest::qWait(200);
+    QCOMPARE(m_service.requestsTo("/offers.json"), 1);
+    QVERIFY(harness.alert() == nullptr);
+}
+
+void tst_QVOffersViewController::failedPageAlertsAndScrollingRetries()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    m_service.setOffersDropped(true);
+    QTest::ignoreMessage(QtInfoMsg, "offers request failed");
+    harness.scrollToEnd();
+    QTRY_VERIFY(harness.alert() != nullptr);
+    QObject *alert = harness.alert();
+    QCOMPARE(alert->property("title").toString(), QStringLiteral("No Connection"));
+    QCOMPARE(alert->property("message").toString(), QStringLiteral(" Please check your internet and try again."));
+    QVERIFY(!harness.wall->loadingOffers());
+    QCOMPARE(harness.wall->offersList().size(), 30); // nothing lost
+
+    auto *action = harness.find(QStringLiteral("alertAction"));
+    QVERIFY(action);
+    QCOMPARE(action->property("text").toString(), QStringLiteral("Ok"));
+    QTRY_VERIFY(alert->property("opened").toBool());
+    harness.click(action);
+    QTRY_VERIFY(harness.alert() == nullptr);
+
+    m_service.setOffersDropped(false);
+    harness.scrollToStart();
+    QTest::qWait(50);
+    harness.scrollToEnd();
+    QTRY_COMPARE(harness.wall->offersList().size(), 60);
+}
+
+void tst_QVOffersViewController::profileTitleAndItsSilentFailure()
+{
+    {
+        WallHarness harness;
+        QVERIFY(harness.show());
+        QQuickItem *title = harness.find(QStringLiteral("headerTitle"));
+        QTRY_COMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
+    }
+    m_service.setProfileDropped(true);
+    QTest::ignoreMessage(QtInfoMsg, "Currency count request failed");
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(m_service.requestsTo("/details.json"), 2);
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    QTest::qWait(200);
+    QCOMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QString());
+    QVERIFY(harness.alert() == nullptr); // the profile fails silently
+    const QVProfile unused;
+    QVERIFY(!unused.showCurrency());
+}
+
+void tst_QVOffersViewController::cellSizes_data()
+{
+    QTest::addColumn<qreal>("width");
+    QTest::addColumn<QSizeF>("size");
+    QTest::newRow("phone") << 390.0 << QSizeF(390, 140);
+    QTest::newRow("600 is one column") << 600.0 << QSizeF(600, 140);
+    QTest::newRow("601 is two columns") << 601.0 << QSizeF(300.5, 150);
+    QTest::newRow("tablet") << 1024.0 << QSizeF(512, 150);
+}
+
+void tst_QVOffersViewController::cellSizes()
+{
+    QFETCH(qreal, width);
+    QFETCH(QSizeF, size);
+    QCOMPARE(QVOffersViewController::sizeForItem(width), size);
+}
+
+void tst_QVOffersViewController::twoColumnsInAWideWindow()
+{
+    WallHarness harness({600, 700});
+    QVERIFY(harness.show());
+    QTRY_VERIFY(harness.cells().size() >= 2);
+    QCOMPARE(harness.cells()[1]->x(), 0.0); // one column
+    QCOMPARE(harness.cells()[0]->height(), 140.0);
+    harness.resize({601, 700});
+    QTRY_COMPARE(harness.list()->property("cellWidth").toReal(), 300.5);
+    QTRY_COMPARE(harness.cells()[1]->x(), 300.5);
+    QCOMPARE(harness.cells()[0]->height(), 150.0);
+}
+
+void tst_QVOffersViewController::cellShowsOfferAndPayout()
+{
+    m_service.setPayout(0);
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_VERIFY(!harness.cells().isEmpty());
+    QVOfferUICollectionViewCell *first = harness.cells().first();
+    QCOMPARE(first->findChild<QQuickItem *>(QStringLiteral("nameLabel"))->property("text").toString(), QStringLiteral("Offer 0"));
+    QCOMPARE(first->findChild<QQuickItem *>(QStringLiteral("descriptionLabel"))->property("text").toString(), QStringLiteral("Do task 0"));
+    QCOMPARE(first->findChild<QQuickItem *>(QStringLiteral("creditsBtn"))->property("text").toString(), QStringLiteral("+0"));
+    QCOMPARE(harness.cells()[1]->payoutTitle(), QStringLiteral("+1"));
+    auto *thumb = first->findChild<QVImageView *>(QStringLiteral("thumbImage"));
+    QTRY_VERIFY(thumb->hasImage());
+    auto *card = first->findChild<QQuickItem *>(QStringLiteral("containerView"));
+    QCOMPARE(card->property("radius").toReal(), 6.0);
+
+    init();
+    m_service.setPayout(1500);
+    WallHarness large;
+    QVERIFY(large.show());
+    QTRY_VERIFY(!large.cells().isEmpty());
+    QCOMPARE(large.cells().first()->payoutTitle(), QStringLiteral("+1,500"));
+}
+
+void tst_QVOffersViewController::payoutPressOpensClickAddress()
+{
+    BrowserProbe browser;
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), &browser, "open");
+    const auto unset = qScopeGuard([] { QDesktopServices::unsetUrlHandler(QStringLiteral("https")); });
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_VERIFY(harness.cells().size() > 2);
+    QTest::qWait(100);
+    harness.click(harness.cells()[2]->findChild<QQuickItem *>(QStringLiteral("creditsBtn")));
+    QTRY_COMPARE(browser.opened.size(), 1);
+    QCOMPARE(browser.opened.first(), QUrl(QStringLiteral("https://advertiser.example/click?offer=2")));
+
+    // An address that is not valid opens nothing.
+    harness.wall->onCreditsPressed(QStringLiteral("https://bad host/x"));
+    harness.wall->onCreditsPressed(QString());
+    QTest::qWait(50);
+    QCOMPARE(browser.opened.size(), 1);
+}
+
+void tst_QVOffersViewController::targetingSetters_data()
+{
+    QTest::addColumn<int>("gender");
+    QTest::addColumn<int>("ageRange");
+    QTest::addColumn<QString>("expectedGender");
+    QTest::addColumn<QString>("expectedAge");
+    QTest::newRow("male, youngest") << 0 << 0 << "m" << "1";
+    QTest::newRow("female, oldest") << 1 << 4 << "f" << "5";
+    QTest::newRow("out of range clears") << 2 << 5 << QString() << QString();
+    QTest::newRow("negative clears") << -1 << -1 << QString() << QString();
+}
+
+void tst_QVOffersViewController::targetingSetters()
+{
+    QFETCH(int, gender);
+    QFETCH(int, ageRange);
+    QFETCH(QString, expectedGender);
+    QFETCH(QString, expectedAge);
+    WallHarness harness;
+    QuorvaRestAPI::sharedInstance()->setGender(QStringLiteral("stale"));
+    QuorvaRestAPI::sharedInstance()->setAgeRange(QStringLiteral("stale"));
+    harness.wall->setGender(gender);
+    harness.wall->setAgeRange(ageRange);
+    QCOMPARE(QuorvaRestAPI::sharedInstance()->gender(), expectedGender);
+    QCOMPARE(QuorvaRestAPI::sharedInstance()->ageRange(), expectedAge);
+    QCOMPARE(QuorvaRestAPI::sharedInstance()->gender().isNull(), expectedGender.isNull());
+    // The getters do not store: they report the initial value.
+    QCOMPARE(harness.wall->gender(), 0);
+    QCOMPARE(harness.wall->ageRange(), 0);
+    QVERIFY(harness.show());
+    QTRY_COMPARE(m_service.requestsTo("/offers.json"), 1);
+    const auto query = m_service.offersQueries().first();
+    QCOMPARE(query.contains("gender"), !expectedGender.isNull());
+    QCOMPARE(query.value("gender"), expectedGender);
+    QCOMPARE(query.value("age_range_id"), expectedAge);
+}
+
+void tst_QVOffersViewController::closeButtonTellsTheHost()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QSignalSpy closed(harness.wall, &QVOffersViewController::closePressed);
+    QQuickItem *close = harness.find(QStringLiteral("closeBtn"));
+    QTRY_VERIFY(close->isVisible());
+    harness.click(close);
+    QCOMPARE(closed.count(), 1);
+    QCOMPARE(harness.closePresses, 1);
+    QVERIFY(harness.wall->isVisible()); // dismissing is the host's job
+}
+
+QTEST_MAIN(tst_QVOffersViewController)
+#include "tst_QVOffersViewController.moc"

@@ -1,6 +1,7 @@
 // quorva-demo: a host application that embeds the offer wall against the local sandbox.
 // With a display it opens a phone- or tablet-sized window; with --screenshots it renders
 // the main screens to PNG files and prints their paths.
+#include "ConsoleReport.h"
 #include "DemoSandbox.h"
 #include "ScreenshotTour.h"
 
@@ -34,7 +35,9 @@ int main(int argc, char **argv)
     const QCommandLineOption screenshots(QStringLiteral("screenshots"),
                                          QStringLiteral("Render the main screens to PNG files in this folder and exit."),
                                          QStringLiteral("dir"));
-    parser.addOptions({tablet, wall, screenshots});
+    const QCommandLineOption console(QStringLiteral("console"),
+                                     QStringLiteral("Print what the client receives from the sandbox and exit."));
+    parser.addOptions({tablet, wall, screenshots, console});
     parser.process(app);
 
     DemoSandbox sandbox;
@@ -43,6 +46,8 @@ int main(int argc, char **argv)
         return 1;
     }
 
+    if (parser.isSet(console))
+        return printConsoleReport(sandbox);
     if (parser.isSet(screenshots)) {
         ScreenshotTour tour(sandbox, parser.value(screenshots));
         return tour.run();

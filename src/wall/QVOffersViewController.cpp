@@ -277,14 +277,14 @@ void QVOffersViewController::onFilterPressed()
         auto *panel = QVComponentFactory::create<QVFiltersViewController>(qmlEngine(this), kFiltersType);
         if (!panel)
             return;
+        // Owned by the wall: a panel still sliding out when the wall goes goes with it.
+        panel->setParent(this);
         panel->setDelegate(this);
         panel->setCategoryParam(m_categoryParam);
         panel->setSortParam(m_sortParam);
         // On a phone the panel's rows begin below the wall's header.
         panel->setTopMargin(headerHeight());
         panel->viewDidLoad();
-        if (m_filterVC && !m_filterVC->parentItem())
-            m_filterVC->deleteLater();
         m_filterVC = panel;
     }
     if (QVDevice::isTablet()) {
@@ -310,7 +310,7 @@ void QVOffersViewController::onFilterPressed()
         m_blurView->setParent(panel);
         m_blurView->setParentItem(panel);
         m_blurView->setZ(-1);
-        connect(panel, &QQuickItem::yChanged, m_blurView, [this] { layoutFilterPanel(); });
+        connect(panel, &QQuickItem::yChanged, this, &QVOffersViewController::layoutFilterPanel);
     }
     panel->setY(-listHeight());
     layoutFilterPanel();

@@ -29,6 +29,8 @@ inline bool spinUntil(const std::function<bool()> &condition, int milliseconds =
         if (timer.elapsed() > milliseconds)
             return false;
         QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        // Outside exec() deferred deletions would pile up; the real event loop runs them.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
     return true;
 }

@@ -11,6 +11,8 @@
 int main(int argc, char **argv)
 {
     QGuiApplication app(argc, argv);
+    // An optional argument scrolls through fewer offers (for profiling runs).
+    const int target = argc > 1 ? QByteArray(argv[1]).toInt() : 3000;
     SandboxProcess sandbox;
     if (!sandbox.isRunning())
         return 1;
@@ -49,7 +51,7 @@ int main(int argc, char **argv)
         const qreal contentHeight = list->property("contentHeight").toReal();
         const qreal maxY = contentHeight - list->height() + list->property("topMargin").toReal();
         const qreal y = list->property("contentY").toReal();
-        if (wall->offersList().size() >= 3000 && y >= maxY - 1)
+        if (wall->offersList().size() >= target && y >= maxY - 1)
             break;
         list->setProperty("contentY", qMin(y + kStep, qMax(maxY, y)));
         frameDone = false;

@@ -26,6 +26,7 @@ void spin(int milliseconds)
     timer.start();
     while (timer.elapsed() < milliseconds) {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QThread::msleep(5);
     }
 }
@@ -38,6 +39,7 @@ bool spinUntil(const std::function<bool()> &condition, int milliseconds = 15000)
         if (timer.elapsed() > milliseconds)
             return false;
         QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QThread::msleep(5);
     }
     return true;

@@ -49,6 +49,7 @@ private slots:
     void selectionRulesAndSavingReloadsFromZero();
     void savedChoiceReopensCheckedAndCategoriesLoadOnce();
     void headerTapAndSupportPressCloseThePanel();
+    void reopeningWhileThePanelSlidesOut();
     void savingWhileAPageIsInFlight();
     void tabletPopover();
     void categoriesFailure();
@@ -215,6 +216,24 @@ void tst_QVFiltersViewController::headerTapAndSupportPressCloseThePanel()
     QVERIFY(openPanel(harness));
     harness.click(harness.find(QStringLiteral("filterBtn")));
     QVERIFY(!harness.wall->isFiltersViewOpen());
+}
+
+void tst_QVFiltersViewController::reopeningWhileThePanelSlidesOut()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QVFiltersViewController *first = openPanel(harness);
+    QVERIFY(first);
+    QPointer<QVFiltersViewController> closing(first);
+    harness.wall->headerTapped();
+    QTest::qWait(100);
+    QVERIFY(closing); // still sliding out
+    harness.click(harness.find(QStringLiteral("filterBtn")));
+    QVFiltersViewController *second = harness.wall->filterVC();
+    QVERIFY(second != first);
+    QTRY_VERIFY(closing.isNull()); // the old panel finished its slide and went
+    QTRY_COMPARE(second->y(), 0.0);
+    QVERIFY(harness.wall->isFiltersViewOpen());
 }
 
 void tst_QVFiltersViewController::savingWhileAPageIsInFlight()

@@ -337,7 +337,9 @@ void QVOffersViewController::layoutFilterPanel()
 
 void QVOffersViewController::slideFilterPanel(qreal toY, bool open)
 {
-    if (m_filterAnimation)
+    // Only a motion of this same panel is replaced; an earlier panel that is still
+    // sliding out finishes and detaches itself.
+    if (m_filterAnimation && m_filterAnimation->targetObject() == m_filterVC)
         m_filterAnimation->stop();
     const auto motion = open ? QVSpringCurve::Motion::FilterPanelOpen : QVSpringCurve::Motion::PanelSlide;
     auto *animation = new QPropertyAnimation(m_filterVC, "y", m_filterVC);

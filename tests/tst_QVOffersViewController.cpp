@@ -253,6 +253,7 @@ void tst_QVOffersViewController::cellShowsOfferAndPayout()
     QTRY_VERIFY(thumb->hasImage());
     auto *card = first->findChild<QQuickItem *>(QStringLiteral("containerView"));
     QCOMPARE(card->property("radius").toReal(), 6.0);
+    QCOMPARE(harness.find(QStringLiteral("wallBackground"))->property("color").value<QColor>(), QColor(242, 242, 242));
 
     init();
     m_service.setPayout(1500);

@@ -17,8 +17,9 @@ QVOffersViewControllerBase {
     clip: true
 
     Rectangle {
+        objectName: "wallBackground"
         anchors.fill: parent
-        color: "#F2F2F2"
+        color: QVColor.colorFromHex("#F2F2F2")
     }
 
     GridView {

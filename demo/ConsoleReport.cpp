@@ -1,5 +1,5 @@
 #include "ConsoleReport.h"
-#include "DemoSandbox.h"
+#include "SandboxProcess.h"
 
 #include <QuorvaMedia/QuorvaMedia.h>
 
@@ -35,7 +35,7 @@ void printOffers(const char *title, const QList<QVOffer> &offers, bool more)
 }
 } // namespace
 
-int printConsoleReport(DemoSandbox &sandbox)
+int printConsoleReport(SandboxProcess &sandbox)
 {
     QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
     api->setServiceBaseAddress(sandbox.baseAddress());

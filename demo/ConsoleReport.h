@@ -1,7 +1,7 @@
 #pragma once
 
-class DemoSandbox;
+class SandboxProcess;
 
 // Prints what the client receives from the sandbox: the profile, the first two pages of
 // offers, the categories, a user's history and a filed ticket's id.
-int printConsoleReport(DemoSandbox &sandbox);
+int printConsoleReport(SandboxProcess &sandbox);

@@ -1,5 +1,5 @@
 #include "ScreenshotTour.h"
-#include "DemoSandbox.h"
+#include "SandboxProcess.h"
 
 #include <QuorvaMedia/QuorvaMedia.h>
 
@@ -84,7 +84,7 @@ Scene openWall(const QString &wallId, QVDevice::Idiom idiom)
 }
 } // namespace
 
-ScreenshotTour::ScreenshotTour(DemoSandbox &sandbox, const QString &directory)
+ScreenshotTour::ScreenshotTour(SandboxProcess &sandbox, const QString &directory)
     : m_sandbox(sandbox), m_directory(directory)
 {
 }
@@ -138,8 +138,8 @@ int ScreenshotTour::run()
     }
 
     {
-        DemoSandbox broken({QStringLiteral("--drop-connections"), QStringLiteral("--fault-path"), QStringLiteral("offers.json")});
-        if (broken.start()) {
+        SandboxProcess broken({QStringLiteral("--drop-connections"), QStringLiteral("--fault-path"), QStringLiteral("offers.json")});
+        if (broken.isRunning()) {
             api->setServiceBaseAddress(broken.baseAddress());
             api->addCaCertificates(broken.caCertificates());
             Scene scene = openWall(QStringLiteral("7"), QVDevice::Idiom::Phone);

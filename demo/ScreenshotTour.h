@@ -2,16 +2,16 @@
 
 #include <QtCore/QString>
 
-class DemoSandbox;
+class SandboxProcess;
 
 // Renders the wall's main screens on a phone and a tablet to PNG files.
 class ScreenshotTour
 {
 public:
-    ScreenshotTour(DemoSandbox &sandbox, const QString &directory);
+    ScreenshotTour(SandboxProcess &sandbox, const QString &directory);
     int run();
 
 private:
-    DemoSandbox &m_sandbox;
+    SandboxProcess &m_sandbox;
     QString m_directory;
 };

@@ -2,7 +2,7 @@
 // With a display it opens a phone- or tablet-sized window; with --screenshots it renders
 // the main screens to PNG files and prints their paths.
 #include "ConsoleReport.h"
-#include "DemoSandbox.h"
+#include "SandboxProcess.h"
 #include "ScreenshotTour.h"
 
 #include <QuorvaMedia/QuorvaMedia.h>
@@ -40,8 +40,8 @@ int main(int argc, char **argv)
     parser.addOptions({tablet, wall, screenshots, console});
     parser.process(app);
 
-    DemoSandbox sandbox;
-    if (!sandbox.start()) {
+    SandboxProcess sandbox;
+    if (!sandbox.isRunning()) {
         std::fprintf(stderr, "quorva-demo: the sandbox did not start\n");
         return 1;
     }

@@ -1,5 +1,8 @@
 #include "SandboxProcess.h"
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QRegularExpression>
 
 #include <csignal>
@@ -60,5 +63,8 @@ QList<QSslCertificate> SandboxProcess::caCertificates() const
 
 QString SandboxProcess::executable()
 {
-    return QStringLiteral(QUORVA_SANDBOX_EXECUTABLE);
+    const QString built = QStringLiteral(QUORVA_SANDBOX_EXECUTABLE);
+    if (QFileInfo::exists(built))
+        return built;
+    return QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral("quorva-sandbox"));
 }

@@ -6,7 +6,8 @@
 #include <QtCore/QTemporaryDir>
 #include <QtNetwork/QSslCertificate>
 
-// Runs the quorva-sandbox executable on a free loopback port for the life of the object.
+// Runs the quorva-sandbox executable on a free loopback port for the life of the object;
+// the demo, the tests and the benchmarks all start their sandbox through it.
 class SandboxProcess
 {
 public:
@@ -21,6 +22,7 @@ public:
     QList<QSslCertificate> caCertificates() const;
     void stop();
 
+    // The sandbox built beside this one, or next to the running program.
     static QString executable();
 
 private:

@@ -71,6 +71,7 @@ void tst_QVFiltersViewController::init()
     QVFiltersViewController::resetAllCategories();
     m_service.setOffersDelay(std::chrono::milliseconds(0));
     m_service.setCategoriesDropped(false);
+    m_service.setPayout(1500);
     m_service.server().clearRequests();
 }
 
@@ -152,6 +153,7 @@ void tst_QVFiltersViewController::selectionRulesAndSavingReloadsFromZero()
     QTRY_COMPARE(checkedRows(panel), (QStringList{"Featured", "Trending"}));
 
     const int before = m_service.requestsTo("/offers.json");
+    m_service.setPayout(7); // the refilled list differs, row for row
     harness.click(save);
     QTRY_COMPARE(m_service.requestsTo("/offers.json"), before + 1);
     const auto query = m_service.offersQueries().last();
@@ -160,6 +162,9 @@ void tst_QVFiltersViewController::selectionRulesAndSavingReloadsFromZero()
     QCOMPARE(query.value("featured_only"), QStringLiteral("1"));
     QVERIFY(!query.contains("category_id"));
     QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    // The refilled list shows the new offers, not the old ones.
+    QTRY_COMPARE(harness.cells().first()->row(), 0);
+    QTRY_COMPARE(harness.cells().first()->payoutTitle(), QStringLiteral("+7"));
     QVERIFY(!harness.wall->isFiltersViewOpen());
     QVERIFY(harness.find(QStringLiteral("closeBtn"))->isVisible());
     QCOMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));

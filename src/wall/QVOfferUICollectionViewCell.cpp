@@ -1,6 +1,8 @@
 #include "QVOfferUICollectionViewCell.h"
 #include "QVImageView.h"
 
+#include <utility>
+
 QVOfferUICollectionViewCell::QVOfferUICollectionViewCell(QQuickItem *parent) : QQuickItem(parent) {}
 
 void QVOfferUICollectionViewCell::setRow(int row)
@@ -9,7 +11,12 @@ void QVOfferUICollectionViewCell::setRow(int row)
         return;
     m_row = row;
     emit rowChanged();
-    reload();
+    // Once complete, a cell changes row only when the list reuses it, and the reuse
+    // announcement that follows need not fill it a second time.
+    if (isComponentComplete()) {
+        configure();
+        m_filledForReuse = true;
+    }
 }
 
 void QVOfferUICollectionViewCell::setDataSource(QObject *source)
@@ -18,20 +25,28 @@ void QVOfferUICollectionViewCell::setDataSource(QObject *source)
         return;
     m_dataSource = source;
     emit dataSourceChanged();
-    reload();
+    if (isComponentComplete())
+        configure();
 }
 
 void QVOfferUICollectionViewCell::componentComplete()
 {
     QQuickItem::componentComplete();
-    reload();
+    // Outlets are assigned during creation; fill the cell once they are all set.
+    configure();
 }
 
 void QVOfferUICollectionViewCell::reload()
 {
-    // Outlets are assigned during creation; fill the cell only once they are all set.
-    if (!isComponentComplete())
+    // Reused at the same row (after the list was emptied and refilled, say), the cell
+    // still shows an earlier offer: fill it again.
+    if (std::exchange(m_filledForReuse, false))
         return;
+    configure();
+}
+
+void QVOfferUICollectionViewCell::configure()
+{
     if (auto *source = dynamic_cast<QVOfferUICollectionViewCellDelegate *>(m_dataSource.data()); source && m_row >= 0)
         source->configureCell(this, m_row);
 }
@@ -42,34 +57,31 @@ void QVOfferUICollectionViewCell::onCreditsBtnPressed()
         m_delegate->onCreditsPressed(m_clickURL);
 }
 
+template <typename Signal>
+void QVOfferUICollectionViewCell::assign(QString &field, const QString &value, Signal changed)
+{
+    if (field == value && field.isNull() == value.isNull())
+        return;
+    field = value;
+    emit (this->*changed)();
+}
+
 void QVOfferUICollectionViewCell::setClickURL(const QString &url)
 {
-    if (m_clickURL == url && m_clickURL.isNull() == url.isNull())
-        return;
-    m_clickURL = url;
-    emit clickURLChanged();
+    assign(m_clickURL, url, &QVOfferUICollectionViewCell::clickURLChanged);
 }
 
 void QVOfferUICollectionViewCell::setOfferName(const QString &name)
 {
-    if (m_offerName == name)
-        return;
-    m_offerName = name;
-    emit offerNameChanged();
+    assign(m_offerName, name, &QVOfferUICollectionViewCell::offerNameChanged);
 }
 
 void QVOfferUICollectionViewCell::setOfferDescription(const QString &description)
 {
-    if (m_offerDescription == description)
-        return;
-    m_offerDescription = description;
-    emit offerDescriptionChanged();
+    assign(m_offerDescription, description, &QVOfferUICollectionViewCell::offerDescriptionChanged);
 }
 
 void QVOfferUICollectionViewCell::setPayoutTitle(const QString &title)
 {
-    if (m_payoutTitle == title)
-        return;
-    m_payoutTitle = title;
-    emit payoutTitleChanged();
+    assign(m_payoutTitle, title, &QVOfferUICollectionViewCell::payoutTitleChanged);
 }

@@ -72,7 +72,8 @@ public:
 
     // The payout button's action.
     Q_INVOKABLE void onCreditsBtnPressed();
-    // Asks the data source to fill the cell again (after reuse).
+    // Called when the list reuses the cell: asks the data source to fill it again
+    // unless the change of row already did.
     Q_INVOKABLE void reload();
 
 signals:
@@ -88,9 +89,14 @@ protected:
     void componentComplete() override;
 
 private:
+    template <typename Signal>
+    void assign(QString &field, const QString &value, Signal changed);
+    void configure();
+
     QVOfferUICollectionViewCellDelegate *m_delegate = nullptr;
     QPointer<QObject> m_dataSource;
     int m_row = -1;
+    bool m_filledForReuse = false;
     QString m_clickURL;
     QString m_offerName;
     QString m_offerDescription;

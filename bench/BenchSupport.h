@@ -1,5 +1,9 @@
 #pragma once
 
+#include "SandboxProcess.h"
+
+#include <QuorvaMedia/QuorvaMedia.h>
+
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QFile>
@@ -46,6 +50,29 @@ inline long residentKiB()
             return line.mid(6).trimmed().split(' ').first().toLong();
     }
     return -1;
+}
+
+// Points the shared client at the sandbox's publisher and the given wall.
+inline QuorvaRestAPI *useSandbox(const SandboxProcess &sandbox, const QString &wall = QStringLiteral("7"))
+{
+    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+    api->addCaCertificates(sandbox.caCertificates());
+    api->setServiceBaseAddress(sandbox.baseAddress());
+    api->setPubId(QStringLiteral("1042"));
+    api->setCorvelId(wall);
+    api->setSubId1(QStringLiteral("user-1"));
+    return api;
+}
+
+// One offers request, waited for; its duration in milliseconds.
+inline double timedOffersRequest(QuorvaRestAPI *api, quint64 offset = 0)
+{
+    QElapsedTimer timer;
+    timer.start();
+    bool done = false;
+    api->fetchOffers(offset, {}, {}, false, [&](const QList<QVOffer> &, bool) { done = true; }, [&] { done = true; });
+    spinUntil([&] { return done; });
+    return double(timer.nsecsElapsed()) / 1e6;
 }
 
 } // namespace bench

@@ -1,9 +1,6 @@
 // A full offers request to the sandbox on loopback: build, send over TLS, parse,
 // deliver on the GUI thread.
 #include "BenchSupport.h"
-#include "SandboxProcess.h"
-
-#include <QuorvaMedia/QuorvaMedia.h>
 
 int main(int argc, char **argv)
 {
@@ -13,25 +10,11 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "sandbox did not start\n");
         return 1;
     }
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    api->addCaCertificates(sandbox.caCertificates());
-    api->setServiceBaseAddress(sandbox.baseAddress());
-    api->setPubId(QStringLiteral("1042"));
-    api->setCorvelId(QStringLiteral("7"));
-    api->setSubId1(QStringLiteral("user-1"));
-
-    auto once = [&](quint64 offset) {
-        QElapsedTimer timer;
-        timer.start();
-        bool done = false;
-        api->fetchOffers(offset, {}, {}, false, [&](const QList<QVOffer> &, bool) { done = true; }, [&] { done = true; });
-        bench::spinUntil([&] { return done; });
-        return double(timer.nsecsElapsed()) / 1e6;
-    };
-    once(0); // connection set-up and TLS handshake
+    QuorvaRestAPI *api = bench::useSandbox(sandbox);
+    bench::timedOffersRequest(api); // connection set-up and TLS handshake
     std::vector<double> ms;
     for (int i = 0; i < 200; ++i)
-        ms.push_back(once(quint64((i % 10) * 30)));
+        ms.push_back(bench::timedOffersRequest(api, quint64((i % 10) * 30)));
     std::printf("offers round trip (30 offers, https, kept-alive connection): median %.2f ms, p99 %.2f ms over %zu requests\n",
                 bench::percentile(ms, 0.5), bench::percentile(ms, 0.99), ms.size());
     return 0;

@@ -1,9 +1,6 @@
 // Time from creating the wall to its first offer cell on screen, against the bare
 // round trip of the same offers request. Run under a display (xvfb-run).
 #include "BenchSupport.h"
-#include "SandboxProcess.h"
-
-#include <QuorvaMedia/QuorvaMedia.h>
 
 #include <QtGui/QGuiApplication>
 #include <QtQuick/QQuickWindow>
@@ -30,12 +27,7 @@ int main(int argc, char **argv)
     SandboxProcess sandbox;
     if (!sandbox.isRunning())
         return 1;
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    api->addCaCertificates(sandbox.caCertificates());
-    api->setServiceBaseAddress(sandbox.baseAddress());
-    api->setPubId(QStringLiteral("1042"));
-    api->setCorvelId(QStringLiteral("7"));
-    api->setSubId1(QStringLiteral("user-1"));
+    QuorvaRestAPI *api = bench::useSandbox(sandbox);
     QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
 
     QQuickWindow window;
@@ -43,21 +35,13 @@ int main(int argc, char **argv)
     window.show();
     bench::spinUntil([&] { return window.isExposed(); });
 
-    auto roundTrip = [&] {
-        QElapsedTimer timer;
-        timer.start();
-        bool done = false;
-        api->fetchOffers(0, {}, {}, false, [&](const QList<QVOffer> &, bool) { done = true; }, [&] { done = true; });
-        bench::spinUntil([&] { return done; });
-        return double(timer.nsecsElapsed()) / 1e6;
-    };
-    roundTrip(); // warm the connection for both measurements
+    bench::timedOffersRequest(api); // warm the connection for both measurements
 
     std::vector<double> bare;
     std::vector<double> wallMs;
     std::vector<double> ratios;
     for (int i = 0; i < 10; ++i) {
-        const double trip = roundTrip();
+        const double trip = bench::timedOffersRequest(api);
         bool swapped = false;
         QElapsedTimer timer;
         timer.start();

@@ -1,9 +1,6 @@
 // Scrolls a phone wall through 3,000 offers with pictures: frame times, live delegate
 // items, memory and the picture cache's high-water mark. Run under a display.
 #include "BenchSupport.h"
-#include "SandboxProcess.h"
-
-#include <QuorvaMedia/QuorvaMedia.h>
 
 #include <QtGui/QGuiApplication>
 #include <QtQuick/QQuickWindow>
@@ -16,9 +13,7 @@ int main(int argc, char **argv)
     SandboxProcess sandbox;
     if (!sandbox.isRunning())
         return 1;
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    api->addCaCertificates(sandbox.caCertificates());
-    api->setServiceBaseAddress(sandbox.baseAddress());
+    bench::useSandbox(sandbox, QStringLiteral("9"));
     QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
     QVImageCache *cache = QVImageCache::sharedImageCache();
 

@@ -177,6 +177,14 @@ void tst_QVImageView::laterAddressCancelsDownloadNotYetStarted()
     QCOMPARE(view->image().pixelColor(0, 0), QColor(Qt::blue));
     QCOMPARE(m_server.requestCount(), 1);
     QCOMPARE(m_server.lastRequest().path, std::string("/blue/8.png"));
+
+    // A cached address cancels the stored operation, which stays stored.
+    const auto operation = view->downloadOperation();
+    QCOMPARE(operation->url, address(QStringLiteral("/blue/8.png")));
+    QVERIFY(!operation->cancelled);
+    view->setImageWithURL(address(QStringLiteral("/blue/8.png")));
+    QCOMPARE(view->downloadOperation(), operation);
+    QVERIFY(operation->cancelled);
 }
 
 QTEST_MAIN(tst_QVImageView)

@@ -18,7 +18,6 @@ public:
     bool isRunning() const { return m_port != 0; }
     quint16 port() const { return m_port; }
     QString baseAddress() const;
-    QString dataDirectory() const { return m_dataDirectory; }
     QList<QSslCertificate> caCertificates() const;
     void stop();
 

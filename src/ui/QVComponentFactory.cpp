@@ -47,8 +47,3 @@ QObject *QVComponentFactory::create(QQmlEngine *engine, const QString &typeName,
     QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
     return object;
 }
-
-void QVComponentFactory::destroy(QObject *object)
-{
-    delete object;
-}

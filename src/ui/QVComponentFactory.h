@@ -2,10 +2,10 @@
 
 #include "quorvamedia_global.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVariantMap>
 
-class QObject;
 class QQmlEngine;
 class QQuickItem;
 
@@ -27,10 +27,7 @@ public:
         QObject *object = create(engine, typeName, properties);
         T *typed = qobject_cast<T *>(object);
         if (object && !typed)
-            destroy(object);
+            delete object;
         return typed;
     }
-
-private:
-    static void destroy(QObject *object);
 };

@@ -68,11 +68,9 @@ public:
 
     int sortKeyIndex() const { return m_sortKeyIndex; }
     int categoryKeyIndex() const { return m_categoryKeyIndex; }
-    int numberOfSections() const { return 2; }
     int numberOfItems(int section) const;
     QString titleForRow(int section, int row) const;
     static QString titleForSection(int section);
-    QSizeF itemSize() const { return {width(), itemHeight()}; }
 
     // Call once the delegate and the current choice are set.
     void viewDidLoad();

@@ -129,10 +129,15 @@ HttpResponse SandboxService::route(const HttpRequest &request)
         return request.method == "POST" ? createTicket(request, m[1], m[2], m[3]) : error(405, "use POST");
     if (std::regex_match(path, m, kTicketListRoute))
         return listTickets();
-    if (std::regex_match(path, m, kPictureRoute))
-        return picture(*integer(m[1]));
-    if (std::regex_match(path, m, kClickRoute))
-        return clickPage(*integer(m[1]));
+    // An id too large for any offer is simply not found.
+    if (std::regex_match(path, m, kPictureRoute)) {
+        const auto id = integer(m[1]);
+        return id ? picture(*id) : error(404, "no such picture");
+    }
+    if (std::regex_match(path, m, kClickRoute)) {
+        const auto id = integer(m[1]);
+        return id ? clickPage(*id) : error(404, "no such offer");
+    }
     return error(404, "no such endpoint");
 }
 

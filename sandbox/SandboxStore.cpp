@@ -48,8 +48,10 @@ public:
     std::int64_t integer(int column) const { return sqlite3_column_int64(m_stmt, column); }
     std::string text(int column) const
     {
+        // By length, not up to the first NUL: texts come back byte for byte.
         const auto *value = sqlite3_column_text(m_stmt, column);
-        return value ? reinterpret_cast<const char *>(value) : std::string();
+        const int size = sqlite3_column_bytes(m_stmt, column);
+        return value ? std::string(reinterpret_cast<const char *>(value), static_cast<std::size_t>(size)) : std::string();
     }
     std::optional<std::string> optionalText(int column) const
     {

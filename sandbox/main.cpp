@@ -53,7 +53,11 @@ int main(int argc, char **argv)
     const QCommandLineOption body(QStringLiteral("broken-body"), QStringLiteral("Break reply bodies: truncated or not-json."), QStringLiteral("kind"));
     const QCommandLineOption faultPath(QStringLiteral("fault-path"), QStringLiteral("Apply faults only to paths containing this text."), QStringLiteral("text"));
     const QCommandLineOption quiet(QStringLiteral("quiet"), QStringLiteral("Do not log requests."));
-    parser.addOptions({address, port, dataDir, caOut, latency, drop, dropEvery, status, body, faultPath, quiet});
+    const QCommandLineOption handshakeTimeout(QStringLiteral("handshake-timeout"), QStringLiteral("Close a connection whose TLS handshake takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("10000"));
+    const QCommandLineOption headerTimeout(QStringLiteral("header-timeout"), QStringLiteral("Close a connection whose next request head takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("15000"));
+    const QCommandLineOption bodyTimeout(QStringLiteral("body-timeout"), QStringLiteral("Close a connection whose request body takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("30000"));
+    parser.addOptions({address, port, dataDir, caOut, latency, drop, dropEvery, status, body, faultPath, quiet,
+                       handshakeTimeout, headerTimeout, bodyTimeout});
     parser.process(app);
 
     sandbox::FaultOptions faults;
@@ -84,8 +88,12 @@ int main(int argc, char **argv)
             if (logRequests)
                 std::cout << line << std::endl;
         });
+        http::ServerLimits limits;
+        limits.handshake = std::chrono::milliseconds(parser.value(handshakeTimeout).toInt());
+        limits.header = std::chrono::milliseconds(parser.value(headerTimeout).toInt());
+        limits.body = std::chrono::milliseconds(parser.value(bodyTimeout).toInt());
         http::HttpServer server([&service](const http::HttpRequest &r) { return service.handle(r); },
-                                certificates.server);
+                                certificates.server, limits);
         const auto bound = server.listen(parser.value(address).toStdString(),
                                          static_cast<std::uint16_t>(parser.value(port).toUInt()));
         std::cout << "quorva-sandbox listening on " << parser.value(address).toStdString() << ":" << bound

@@ -31,8 +31,12 @@ QStringList checkedRows(QVFiltersViewController *panel)
 QStringList headerTitles(QVFiltersViewController *panel)
 {
     QStringList titles;
-    for (auto *header : panel->findChildren<QVFilterUICollectionViewHeader *>())
-        titles << header->findChild<QQuickItem *>(QStringLiteral("name"))->property("text").toString();
+    auto *list = panel->findChild<QQuickItem *>(QStringLiteral("collectionView"));
+    auto *content = list->property("contentItem").value<QQuickItem *>();
+    for (QQuickItem *child : content->childItems()) {
+        if (auto *header = qobject_cast<QVFilterUICollectionViewHeader *>(child); header && header->isVisible())
+            titles << header->findChild<QQuickItem *>(QStringLiteral("name"))->property("text").toString();
+    }
     return titles;
 }
 } // namespace
@@ -53,6 +57,9 @@ private slots:
     void savingWhileAPageIsInFlight();
     void tabletPopover();
     void categoriesFailure();
+    void openPanelTakesEveryTouchInItsArea();
+    void everyRowStaysTappableWithTheSaveButton_data();
+    void everyRowStaysTappableWithTheSaveButton();
 
 private:
     QVFiltersViewController *openPanel(WallHarness &harness);
@@ -69,7 +76,7 @@ void tst_QVFiltersViewController::init()
     QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
     QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
     QVFiltersViewController::resetAllCategories();
-    m_service.setOffersDelay(std::chrono::milliseconds(0));
+    m_service.setOffersHeld(false);
     m_service.setCategoriesDropped(false);
     m_service.setPayout(1500);
     m_service.server().clearRequests();
@@ -81,8 +88,9 @@ QVFiltersViewController *tst_QVFiltersViewController::openPanel(WallHarness &har
     QVFiltersViewController *panel = harness.wall->filterVC();
     if (!panel)
         return nullptr;
-    const bool settled = QTest::qWaitFor([&] { return QVDevice::isTablet() || panel->y() == 0.0; }, 5000)
-        && QTest::qWaitFor([&] { return rowsOf(panel).size() >= 4; }, 5000);
+    const bool settled = QTest::qWaitFor([&] { return !harness.wall->isOverlayAnimating(); })
+        && (QVDevice::isTablet() || panel->y() == 0.0)
+        && QTest::qWaitFor([&] { return rowsOf(panel).size() >= 4; });
     return settled ? panel : nullptr;
 }
 
@@ -107,12 +115,10 @@ void tst_QVFiltersViewController::phonePanelDropsInUnderTheHeader()
 
     // The spring overshoots past its rest position before settling there.
     qreal lowest = panel->y();
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < 1300) {
+    QVERIFY(QTest::qWaitFor([&] {
         lowest = qMax(lowest, panel->y());
-        QTest::qWait(5);
-    }
+        return !harness.wall->isOverlayAnimating();
+    }, 20000));
     QVERIFY2(lowest > 1.0, qPrintable(QString::number(lowest)));
     QCOMPARE(panel->y(), 0.0);
     QCOMPARE(panel->size(), harness.wall->size());
@@ -142,8 +148,7 @@ void tst_QVFiltersViewController::selectionRulesAndSavingReloadsFromZero()
     QVERIFY(panel);
     QQuickItem *save = panel->findChild<QQuickItem *>(QStringLiteral("saveButton"));
 
-    harness.click(rowsOf(panel).value(QStringLiteral("Popularity")));
-    QTest::qWait(50);
+    harness.click(rowsOf(panel).value(QStringLiteral("Popularity"))); // handled within the click
     QVERIFY2(!save->isVisible(), "tapping the checked row changes nothing");
 
     harness.click(rowsOf(panel).value(QStringLiteral("Trending")));
@@ -231,8 +236,8 @@ void tst_QVFiltersViewController::reopeningWhileThePanelSlidesOut()
     QVERIFY(first);
     QPointer<QVFiltersViewController> closing(first);
     harness.wall->headerTapped();
-    QTest::qWait(100);
-    QVERIFY(closing); // still sliding out
+    QVERIFY(harness.wall->isOverlayAnimating()); // still sliding out
+    QVERIFY(closing);
     harness.click(harness.find(QStringLiteral("filterBtn")));
     QVFiltersViewController *second = harness.wall->filterVC();
     QVERIFY(second != first);
@@ -248,13 +253,14 @@ void tst_QVFiltersViewController::savingWhileAPageIsInFlight()
     QTRY_COMPARE(harness.wall->offersList().size(), 30);
     QVFiltersViewController *panel = openPanel(harness);
     harness.click(rowsOf(panel).value(QStringLiteral("Trending")));
-    m_service.setOffersDelay(std::chrono::milliseconds(500));
+    m_service.setOffersHeld(true);
     harness.wall->loadMoreOffers(); // the page for offset 30 is now in flight
     QVERIFY(harness.wall->loadingOffers());
     harness.click(panel->findChild<QQuickItem *>(QStringLiteral("saveButton")));
     // The list is emptied, but the new first page is dropped by the paging guard; the
     // old filter's late page lands in the emptied list.
     QCOMPARE(harness.wall->offersList().size(), 0);
+    m_service.setOffersHeld(false);
     QTRY_COMPARE(harness.wall->offersList().size(), 30);
     QCOMPARE(harness.wall->offersList().first().offerId(), QStringLiteral("30"));
     QCOMPARE(m_service.requestsTo("/offers.json"), 2);
@@ -286,8 +292,7 @@ void tst_QVFiltersViewController::tabletPopover()
     QCOMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
 
     QTest::mouseClick(harness.window.get(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 500));
-    QTest::qWait(100);
-    QVERIFY(popover->property("visible").toBool());
+    QVERIFY(popover->property("opened").toBool()); // a press outside is handled as it arrives
 
     // A size transition (rotation) takes it away.
     harness.resize({768, 1024});
@@ -319,7 +324,9 @@ void tst_QVFiltersViewController::categoriesFailure()
     QCOMPARE(alert->property("title").toString(), QStringLiteral("No Connection"));
     QCOMPARE(alert->property("message").toString(), QStringLiteral("Please check your internet and try again."));
     QVERIFY(!QVFiltersViewController::allCategories().has_value());
-    QCOMPARE(panel->model()->rowCount(), 4);
+    QCOMPARE(panel->numberOfItems(QVFiltersViewController::kCategorySection), 0);
+    QTRY_COMPARE(headerTitles(panel).size(), 2); // the empty section keeps its header
+    QVERIFY(headerTitles(panel).contains(QStringLiteral("Sort by Category")));
     QTRY_VERIFY(alert->property("opened").toBool());
     harness.click(panel->findChild<QQuickItem *>(QStringLiteral("alertAction")));
     QTRY_VERIFY(panel->findChild<QObject *>(QStringLiteral("alert")) == nullptr);
@@ -337,6 +344,88 @@ void tst_QVFiltersViewController::categoriesFailure()
     panel = openPanel(harness);
     QTRY_COMPARE(rowsOf(panel).size(), 8);
     QCOMPARE(m_service.requestsTo("/categories.json") >= 2, true);
+}
+
+namespace {
+bool isWithin(QQuickItem *item, QQuickItem *ancestor)
+{
+    for (; item; item = item->parentItem()) {
+        if (item == ancestor)
+            return true;
+    }
+    return false;
+}
+} // namespace
+
+void tst_QVFiltersViewController::openPanelTakesEveryTouchInItsArea()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    QVFiltersViewController *panel = openPanel(harness);
+    QVERIFY(panel);
+    harness.click(rowsOf(panel).value(QStringLiteral("Trending"))); // reveals the save button
+    QQuickItem *save = panel->findChild<QQuickItem *>(QStringLiteral("saveButton"));
+    QTRY_VERIFY(save->isVisible());
+
+    // Below the header, every press inside the panel ends at the panel or one of its
+    // children, never at the offer list beneath.
+    // (Not on the save button itself: a click there would close the panel.)
+    const QRectF button = save->mapRectToScene(save->boundingRect());
+    const qreal top = QVOffersViewController::headerHeight() + 1;
+    QList<QPoint> points;
+    for (qreal y = top; y < panel->height(); y += 23) {
+        for (qreal x = 3; x < panel->width(); x += 29) {
+            const QPointF point = panel->mapToScene(QPointF(x, y));
+            if (!button.contains(point))
+                points << point.toPoint();
+        }
+    }
+    points << button.topLeft().toPoint() - QPoint(6, 6) << button.bottomRight().toPoint() + QPoint(6, 6)
+           << QPoint(int(button.left()) - 6, int(button.center().y())) << QPoint(int(button.right()) + 6, int(button.center().y()));
+    for (const QPoint &point : points) {
+        QTest::mousePress(harness.window.get(), Qt::LeftButton, Qt::NoModifier, point);
+        QQuickItem *grabber = harness.window->mouseGrabberItem();
+        QTest::mouseRelease(harness.window.get(), Qt::LeftButton, Qt::NoModifier, point);
+        QVERIFY2(isWithin(grabber, panel), qPrintable(QStringLiteral("press at %1,%2 reached %3")
+                                                       .arg(point.x()).arg(point.y())
+                                                       .arg(grabber ? grabber->objectName() : QStringLiteral("nothing"))));
+    }
+    QVERIFY(harness.wall->isFiltersViewOpen());
+}
+
+void tst_QVFiltersViewController::everyRowStaysTappableWithTheSaveButton_data()
+{
+    QTest::addColumn<bool>("tablet");
+    QTest::newRow("phone") << false;
+    QTest::newRow("tablet") << true;
+}
+
+void tst_QVFiltersViewController::everyRowStaysTappableWithTheSaveButton()
+{
+    QFETCH(bool, tablet);
+    QVDevice::setUserInterfaceIdiom(tablet ? QVDevice::Idiom::Tablet : QVDevice::Idiom::Phone);
+    WallHarness harness(tablet ? QSize(1024, 768) : QSize(390, 780));
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    QVFiltersViewController *panel = openPanel(harness);
+    QVERIFY(panel);
+    harness.click(rowsOf(panel).value(QStringLiteral("Trending")));
+    QQuickItem *save = panel->findChild<QQuickItem *>(QStringLiteral("saveButton"));
+    QTRY_VERIFY(save->isVisible());
+    QQuickItem *list = panel->findChild<QQuickItem *>(QStringLiteral("collectionView"));
+    QTRY_COMPARE(panel->numberOfItems(QVFiltersViewController::kCategorySection), 4);
+    QTRY_VERIFY(QMetaObject::invokeMethod(list, "positionViewAtEnd") && list->property("atYEnd").toBool());
+    QTRY_VERIFY(rowsOf(panel).contains(QStringLiteral("Travel")));
+    QVFilterUICollectionViewCell *last = rowsOf(panel).value(QStringLiteral("Travel"));
+    const QRectF lastRow = last->mapRectToScene(last->boundingRect());
+    const QRectF button = save->mapRectToScene(save->boundingRect());
+    const QRectF visible = list->mapRectToScene(list->boundingRect());
+    QVERIFY2(lastRow.bottom() <= button.top(), qPrintable(QStringLiteral("row ends at %1, button starts at %2")
+                                                            .arg(lastRow.bottom()).arg(button.top())));
+    QVERIFY(visible.contains(lastRow));
+    harness.click(last);
+    QTRY_COMPARE(checkedRows(panel), (QStringList{"Travel", "Trending"}));
 }
 
 QTEST_MAIN(tst_QVFiltersViewController)

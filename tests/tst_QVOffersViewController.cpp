@@ -1,4 +1,5 @@
 #include "FakeOfferService.h"
+#include "LogCapture.h"
 #include "WallHarness.h"
 
 #include <QtGui/QDesktopServices>
@@ -31,6 +32,8 @@ private slots:
     void endOfListStopsPaging();
     void emptyListShowsLabel();
     void failedPageAlertsAndScrollingRetries();
+    void failedFirstPageOffersTryAgain_data();
+    void failedFirstPageOffersTryAgain();
     void profileTitleAndItsSilentFailure();
     void cellSizes_data();
     void cellSizes();
@@ -62,10 +65,12 @@ void tst_QVOffersViewController::init()
     api->setSubId3({});
     api->setSubId4({});
     m_service.setTotalOffers(95);
-    m_service.setOffersDelay(std::chrono::milliseconds(0));
+    m_service.setOffersHeld(false);
     m_service.setOffersDropped(false);
+    m_service.setOffersStalled(false);
     m_service.setProfileDropped(false);
     m_service.setPayout(1500);
+    api->setTransferTimeout(QuorvaRestAPI::kDefaultTransferTimeout);
     m_service.server().clearRequests();
     QVImageCache::sharedImageCache()->clear();
 }
@@ -76,8 +81,8 @@ void tst_QVOffersViewController::loadsWhenFirstShownWithTargetingApplied()
     harness.wall->setGender(1);
     harness.wall->setAgeRange(2);
     harness.wall->setSubid2(QStringLiteral("campaign"));
-    QTest::qWait(100);
-    QCOMPARE(m_service.requestsTo("/offers.json"), 0); // not loaded before it is shown
+    QVERIFY(!harness.wall->loadingOffers()); // not loaded before it is shown
+    QCOMPARE(m_service.requestsTo("/offers.json"), 0);
     QVERIFY(harness.show());
     QTRY_COMPARE(harness.wall->offersList().size(), 30);
     const auto query = m_service.offersQueries().first();
@@ -93,8 +98,8 @@ void tst_QVOffersViewController::pagesAsTheListScrolls()
     WallHarness harness;
     QVERIFY(harness.show());
     QTRY_COMPARE(harness.wall->offersList().size(), 30);
-    QTest::qWait(100);
-    QCOMPARE(m_service.requestsTo("/offers.json"), 1); // the last cell is not built yet
+    QVERIFY(!harness.wall->loadingOffers()); // the last cell is not built yet
+    QCOMPARE(m_service.requestsTo("/offers.json"), 1);
     harness.scrollToEnd();
     QTRY_COMPARE(harness.wall->offersList().size(), 60);
     harness.scrollToEnd();
@@ -111,15 +116,16 @@ void tst_QVOffersViewController::lastCellShownOftenSendsOneRequest()
     WallHarness harness;
     QVERIFY(harness.show());
     QTRY_COMPARE(harness.wall->offersList().size(), 30);
-    m_service.setOffersDelay(std::chrono::milliseconds(600));
+    m_service.setOffersHeld(true);
     for (int i = 0; i < 5; ++i) {
         harness.scrollToEnd();
-        QTest::qWait(40);
+        QTRY_COMPARE(harness.cells().last()->row(), 29);
+        QVERIFY(harness.wall->loadingOffers());
         harness.scrollToStart();
-        QTest::qWait(40);
+        QTRY_COMPARE(harness.cells().first()->row(), 0);
     }
-    harness.scrollToEnd();
-    QVERIFY(harness.wall->loadingOffers());
+    QTRY_COMPARE(m_service.requestsTo("/offers.json"), 2);
+    m_service.setOffersHeld(false);
     QTRY_COMPARE(harness.wall->offersList().size(), 60);
     QCOMPARE(m_service.requestsTo("/offers.json"), 2);
 }
@@ -137,9 +143,10 @@ void tst_QVOffersViewController::endOfListStopsPaging()
     const int requests = m_service.requestsTo("/offers.json");
     QCOMPARE(requests, 3);
     harness.scrollToStart();
-    QTest::qWait(50);
+    QTRY_COMPARE(harness.cells().first()->row(), 0);
     harness.scrollToEnd();
-    QTest::qWait(200);
+    QTRY_COMPARE(harness.cells().last()->row(), 39);
+    QVERIFY(!harness.wall->loadingOffers()); // showing the last cell asked for nothing
     QCOMPARE(m_service.requestsTo("/offers.json"), requests);
     QVERIFY(!harness.find(QStringLiteral("noOffersLabel"))->isVisible());
 }
@@ -153,7 +160,7 @@ void tst_QVOffersViewController::emptyListShowsLabel()
     QVERIFY(label);
     QTRY_VERIFY(label->isVisible());
     QVERIFY(!harness.wall->moreOffersAvailable());
-    QTest::qWait(200);
+    QVERIFY(!harness.wall->loadingOffers());
     QCOMPARE(m_service.requestsTo("/offers.json"), 1);
     QVERIFY(harness.alert() == nullptr);
 }
@@ -180,11 +187,59 @@ void tst_QVOffersViewController::failedPageAlertsAndScrollingRetries()
     harness.click(action);
     QTRY_VERIFY(harness.alert() == nullptr);
 
+    // The list still holds offers, so there is no inline retry.
+    QVERIFY(!harness.find(QStringLiteral("retryButton"))->isVisible());
     m_service.setOffersDropped(false);
     harness.scrollToStart();
-    QTest::qWait(50);
+    QTRY_VERIFY(harness.cells().first()->row() == 0);
     harness.scrollToEnd();
     QTRY_COMPARE(harness.wall->offersList().size(), 60);
+}
+
+void tst_QVOffersViewController::failedFirstPageOffersTryAgain_data()
+{
+    QTest::addColumn<bool>("stalled");
+    QTest::newRow("connection dropped") << false;
+    QTest::newRow("no answer until the time-out") << true;
+}
+
+void tst_QVOffersViewController::failedFirstPageOffersTryAgain()
+{
+    QFETCH(bool, stalled);
+    if (stalled) {
+        m_service.setOffersStalled(true);
+        QuorvaRestAPI::sharedInstance()->setTransferTimeout(std::chrono::milliseconds(500));
+        QTest::ignoreMessage(QtWarningMsg, "offers request timed out after 500 ms");
+    } else {
+        m_service.setOffersDropped(true);
+    }
+    m_service.setProfileDropped(true);
+    QTest::ignoreMessage(QtInfoMsg, "offers request failed");
+    QTest::ignoreMessage(QtInfoMsg, "Currency count request failed");
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_VERIFY(harness.alert() != nullptr); // the alert stays
+    QVERIFY(!harness.wall->loadingOffers());  // the paging guard is released
+    QQuickItem *retry = harness.find(QStringLiteral("retryButton"));
+    QVERIFY(retry);
+    QTRY_VERIFY(retry->isVisible());
+    QCOMPARE(retry->property("text").toString(), QStringLiteral("Try again"));
+    QVERIFY(!harness.find(QStringLiteral("noOffersLabel"))->isVisible());
+    QTRY_VERIFY(harness.alert()->property("opened").toBool());
+    harness.click(harness.find(QStringLiteral("alertAction")));
+    QTRY_VERIFY(harness.alert() == nullptr);
+
+    m_service.setOffersDropped(false);
+    m_service.setOffersStalled(false);
+    m_service.setProfileDropped(false);
+    const int before = m_service.requestsTo("/offers.json");
+    harness.click(retry);
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    QCOMPARE(m_service.requestsTo("/offers.json"), before + 1);
+    QCOMPARE(m_service.offersQueries().last().value("offset"), QStringLiteral("0"));
+    QVERIFY(!retry->isVisible());
+    // The title that failed with the first page comes back with it.
+    QTRY_COMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
 }
 
 void tst_QVOffersViewController::profileTitleAndItsSilentFailure()
@@ -197,15 +252,13 @@ void tst_QVOffersViewController::profileTitleAndItsSilentFailure()
     }
     m_service.setProfileDropped(true);
     QTest::ignoreMessage(QtInfoMsg, "Currency count request failed");
+    LogCapture log;
     WallHarness harness;
     QVERIFY(harness.show());
-    QTRY_COMPARE(m_service.requestsTo("/details.json"), 2);
+    QTRY_VERIFY(log.contains(QStringLiteral("Currency count request failed")));
     QTRY_COMPARE(harness.wall->offersList().size(), 30);
-    QTest::qWait(200);
     QCOMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QString());
     QVERIFY(harness.alert() == nullptr); // the profile fails silently
-    const QVProfile unused;
-    QVERIFY(!unused.showCurrency());
 }
 
 void tst_QVOffersViewController::cellSizes_data()
@@ -271,7 +324,7 @@ void tst_QVOffersViewController::payoutPressOpensClickAddress()
     WallHarness harness;
     QVERIFY(harness.show());
     QTRY_VERIFY(harness.cells().size() > 2);
-    QTest::qWait(100);
+    QTRY_VERIFY(harness.cells()[2]->findChild<QQuickItem *>(QStringLiteral("creditsBtn"))->width() > 0);
     harness.click(harness.cells()[2]->findChild<QQuickItem *>(QStringLiteral("creditsBtn")));
     QTRY_COMPARE(browser.opened.size(), 1);
     QCOMPARE(browser.opened.first(), QUrl(QStringLiteral("https://advertiser.example/click?offer=2")));
@@ -279,8 +332,7 @@ void tst_QVOffersViewController::payoutPressOpensClickAddress()
     // An address that is not valid opens nothing.
     harness.wall->onCreditsPressed(QStringLiteral("https://bad host/x"));
     harness.wall->onCreditsPressed(QString());
-    QTest::qWait(50);
-    QCOMPARE(browser.opened.size(), 1);
+    QCOMPARE(browser.opened.size(), 1); // opening is synchronous: nothing more came
 }
 
 void tst_QVOffersViewController::targetingSetters_data()

@@ -1,4 +1,5 @@
 #include "CallbackProbe.h"
+#include "LogCapture.h"
 #include "SandboxProcess.h"
 
 #include <QuorvaMedia/QuorvaMedia.h>
@@ -8,6 +9,7 @@
 #include <QtCore/QJsonObject>
 #include <QtNetwork/QNetworkAccessManager>
 #include <QtNetwork/QNetworkReply>
+#include <QtNetwork/QTcpSocket>
 #include <QtTest/QtTest>
 
 namespace {
@@ -44,6 +46,15 @@ private slots:
     void picturesAreServed();
     void injectedFaults_data();
     void injectedFaults();
+    void rejectedRequestIsAnAnswer();
+    void ticketsAreFiledOncePerCall_data();
+    void ticketsAreFiledOncePerCall();
+    void stalledPeersAreClosedAndServingGoesOn();
+    void overflowingIdsAreNotFound_data();
+    void overflowingIdsAreNotFound();
+    void malformedRequestsAreAnswered_data();
+    void malformedRequestsAreAnswered();
+    void ticketTextsRoundTripByteForByte();
 
 private:
     RawReply raw(const QByteArray &verb, const QString &path, const QByteArray &body = {},
@@ -214,8 +225,9 @@ void tst_Sandbox::profilesAndHistory()
 
     api->setCorvelId(QStringLiteral("404"));
     QTest::ignoreMessage(QtInfoMsg, "corvelId doesn't exist for the specified pubId");
+    LogCapture log;
     api->fetchProfile([&](const QVProfile &) { ++probe.successes; }, probe.failure());
-    QTest::qWait(500);
+    QTRY_VERIFY(log.contains(QStringLiteral("corvelId doesn't exist for the specified pubId")));
     QCOMPARE(probe.successes, 3);
     QCOMPARE(probe.failures, 0);
 }
@@ -331,6 +343,157 @@ void tst_Sandbox::injectedFaults()
         QVERIFY(page.isEmpty());
         QCOMPARE(hasMore, more);
     }
+}
+
+void tst_Sandbox::rejectedRequestIsAnAnswer()
+{
+    // The service answers 400 to an unknown sort: an answer with no offers, not a failure.
+    bool more = false;
+    CallbackProbe probe;
+    QList<QVOffer> page{QVOffer()};
+    QuorvaRestAPI::sharedInstance()->fetchOffers(0, QStringLiteral("bogus"), {}, false,
+        [&](const QList<QVOffer> &offers, bool hasMore) { ++probe.successes; page = offers; more = hasMore; },
+        probe.failure());
+    QTRY_VERIFY(probe.finished());
+    QCOMPARE(probe.successes, 1);
+    QVERIFY(page.isEmpty());
+    QVERIFY(more);
+}
+
+void tst_Sandbox::ticketsAreFiledOncePerCall_data()
+{
+    QTest::addColumn<QStringList>("faults");
+    QTest::addColumn<int>("calls");
+    QTest::addColumn<int>("failures");
+    QTest::newRow("every connection dropped after the ticket") << QStringList{"--drop-connections"} << 1 << 1;
+    QTest::newRow("every second connection dropped") << QStringList{"--drop-every", "2"} << 5 << 2;
+}
+
+void tst_Sandbox::ticketsAreFiledOncePerCall()
+{
+    QFETCH(QStringList, faults);
+    QFETCH(int, calls);
+    QFETCH(int, failures);
+    QTemporaryDir data;
+    CallbackProbe probe;
+    {
+        // The sandbox stores each ticket, then hangs up on the faulty connections.
+        SandboxProcess faulty(faults << QStringLiteral("--fault-path") << QStringLiteral("tickets.json"), data.path());
+        QVERIFY(faulty.isRunning());
+        QuorvaRestAPI::sharedInstance()->addCaCertificates(faulty.caCertificates());
+        useSandbox(faulty);
+        for (int call = 0; call < calls; ++call) {
+            QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: ")));
+            QuorvaRestAPI::sharedInstance()->createSupportTicket(
+                QStringLiteral("Ann"), QStringLiteral("ann@example.com"), QStringLiteral("2"),
+                QStringLiteral("call %1").arg(call), {}, {}, [&](const QVariant &) { ++probe.successes; },
+                probe.failure());
+            // One at a time, so that "every second" means every second call.
+            QTRY_COMPARE(probe.successes + probe.failures, call + 1);
+        }
+    }
+    QCOMPARE(probe.failures, failures);
+    SandboxProcess clean({}, data.path());
+    const QJsonArray stored = raw("GET", QStringLiteral("/sandbox/tickets.json"), {}, &clean).json()[QStringLiteral("tickets")].toArray();
+    QCOMPARE(stored.size(), calls);
+}
+
+namespace {
+// The status line's code of whatever the server answers to these raw bytes over http.
+int rawStatus(quint16 port, const QByteArray &bytes)
+{
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress::LocalHost, port);
+    if (!socket.waitForConnected(5000))
+        return -1;
+    socket.write(bytes);
+    QByteArray answer;
+    while (!answer.contains("\r\n") && socket.waitForReadyRead(10000))
+        answer += socket.readAll();
+    const QList<QByteArray> words = answer.left(answer.indexOf("\r\n")).split(' ');
+    return words.size() >= 2 ? words[1].toInt() : 0;
+}
+} // namespace
+
+void tst_Sandbox::stalledPeersAreClosedAndServingGoesOn()
+{
+    // Few file handles and short time-outs: more stalled peers than handles, at once.
+    SandboxProcess sandbox({QStringLiteral("--handshake-timeout"), QStringLiteral("400"),
+                            QStringLiteral("--header-timeout"), QStringLiteral("400"),
+                            QStringLiteral("--body-timeout"), QStringLiteral("400")},
+                           {}, 48);
+    QVERIFY(sandbox.isRunning());
+    std::vector<std::unique_ptr<QTcpSocket>> peers;
+    const QByteArray halfRequest = "GET /corvel/categories.json?visibility=1 HTTP/1.1\r\nHost: x\r\n";
+    const QByteArray halfBody = "POST /corvel/api/publisher/1042/profile/7/user/u/tickets.json HTTP/1.1\r\n"
+                                "Host: x\r\nContent-Length: 100\r\n\r\n{\"name\"";
+    const QByteArray halfHandshake = QByteArray::fromHex("160301020001");
+    for (int i = 0; i < 80; ++i) {
+        auto socket = std::make_unique<QTcpSocket>();
+        socket->connectToHost(QHostAddress::LocalHost, sandbox.port());
+        QVERIFY(socket->waitForConnected(5000));
+        const QByteArray opening[] = {{}, halfRequest, halfBody, halfHandshake};
+        socket->write(opening[i % 4]);
+        socket->flush();
+        peers.push_back(std::move(socket));
+    }
+    // The server closes every stalled peer by itself...
+    QTRY_VERIFY_WITH_TIMEOUT(std::all_of(peers.begin(), peers.end(), [](const auto &socket) {
+        return socket->state() == QAbstractSocket::UnconnectedState;
+    }), 20000);
+    // ...and keeps serving.
+    QVERIFY(sandbox.processAlive());
+    QCOMPARE(raw("GET", QStringLiteral("/corvel/categories.json?visibility=1"), {}, &sandbox).status, 200);
+}
+
+void tst_Sandbox::overflowingIdsAreNotFound_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::newRow("picture") << "/img/99999999999999999999.png";
+    QTest::newRow("click") << "/click/99999999999999999999999999999999";
+}
+
+void tst_Sandbox::overflowingIdsAreNotFound()
+{
+    QFETCH(QString, path);
+    QCOMPARE(raw("GET", path).status, 404);
+    QCOMPARE(raw("GET", QStringLiteral("/img/5.png")).status, 200); // still serving
+}
+
+void tst_Sandbox::malformedRequestsAreAnswered_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("status");
+    QTest::newRow("not http") << QByteArray("HELLO THERE\r\n\r\n") << 400;
+    QTest::newRow("bad content length") << QByteArray("POST /x HTTP/1.1\r\nHost: x\r\nContent-Length: lots\r\n\r\n") << 400;
+    QTest::newRow("target too long") << "GET /" + QByteArray(40000, 'a') + " HTTP/1.1\r\nHost: x\r\n\r\n" << 414;
+    QTest::newRow("header too large")
+        << "GET /img/5.png HTTP/1.1\r\nHost: x\r\nX-Big: " + QByteArray(40000, 'b') + "\r\n\r\n" << 431;
+    QTest::newRow("body too large")
+        << QByteArray("POST /corvel/api/publisher/1042/profile/7/user/u/tickets.json HTTP/1.1\r\n"
+                      "Host: x\r\nContent-Length: 50000000\r\n\r\n{") << 413;
+}
+
+void tst_Sandbox::malformedRequestsAreAnswered()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, status);
+    QCOMPARE(rawStatus(m_sandbox->port(), bytes), status);
+}
+
+void tst_Sandbox::ticketTextsRoundTripByteForByte()
+{
+    const QString message = QStringLiteral("before") + QChar(0) + QStringLiteral("after \u00e9\U0001F600");
+    const QJsonObject ticket{{"name", "Nul"}, {"email", "nul@example.com"}, {"subject_id", "3"}, {"message", message}};
+    const RawReply created = raw("POST", QStringLiteral("/corvel/api/publisher/1042/profile/7/user/nul/tickets.json"),
+                                 QJsonDocument(ticket).toJson());
+    QCOMPARE(created.status, 201);
+    const QJsonArray stored = raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray();
+    const auto mine = std::find_if(stored.begin(), stored.end(), [&](const QJsonValue &t) {
+        return t[QStringLiteral("ticket_id")] == created.json()[QStringLiteral("ticket_id")];
+    });
+    QVERIFY(mine != stored.end());
+    QCOMPARE((*mine)[QStringLiteral("message")].toString(), message);
 }
 
 QTEST_GUILESS_MAIN(tst_Sandbox)

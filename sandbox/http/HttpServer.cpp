@@ -4,6 +4,7 @@
 
 #include <boost/asio/co_spawn.hpp>
 #include <boost/asio/detached.hpp>
+#include <boost/asio/redirect_error.hpp>
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/asio/ssl.hpp>
 #include <boost/asio/steady_timer.hpp>
@@ -88,9 +89,43 @@ HttpResponse HttpResponse::json(int status, std::string body)
     return response;
 }
 
+namespace {
+// The peer sent something that is not an acceptable request: the status to answer with,
+// or 0 when there is nobody left to answer (the peer went away or took too long).
+int statusForReadError(const beast::error_code &ec, bool requestLineRead)
+{
+    if (ec == bhttp::error::header_limit)
+        return requestLineRead ? 431 : 414;
+    if (ec == bhttp::error::body_limit)
+        return 413;
+    const bool parseError = ec.category() == beast::error_code(bhttp::error::bad_method).category()
+        && ec != bhttp::error::end_of_stream && ec != bhttp::error::partial_message
+        && ec != bhttp::error::short_read && ec != bhttp::error::need_more;
+    return parseError ? 400 : 0;
+}
+
+const char *reasonFor(int status)
+{
+    switch (status) {
+    case 413: return "the request body is too large";
+    case 414: return "the request target is too long";
+    case 431: return "the request header is too large";
+    default: return "the request is malformed";
+    }
+}
+
+std::string chunk(std::size_t size)
+{
+    std::ostringstream out;
+    out << std::hex << size << "\r\n" << std::string(size, 'x') << "\r\n";
+    return out.str();
+}
+} // namespace
+
 struct HttpServer::Impl
 {
     Handler handler;
+    ServerLimits limits;
     asio::io_context io{1};
     asio::ssl::context tls{asio::ssl::context::tls_server};
     tcp::acceptor acceptor{io};
@@ -99,8 +134,17 @@ struct HttpServer::Impl
     asio::awaitable<void> acceptLoop()
     {
         for (;;) {
-            tcp::socket socket = co_await acceptor.async_accept(use_awaitable);
-            asio::co_spawn(io, session(std::move(socket)), asio::detached);
+            beast::error_code ec;
+            tcp::socket socket = co_await acceptor.async_accept(asio::redirect_error(use_awaitable, ec));
+            if (!ec) {
+                asio::co_spawn(io, session(std::move(socket)), asio::detached);
+                continue;
+            }
+            if (ec == asio::error::operation_aborted || !acceptor.is_open())
+                co_return;
+            // Out of file handles and the like: wait for connections to end, then go on.
+            asio::steady_timer pause(io, std::chrono::milliseconds(50));
+            co_await pause.async_wait(asio::redirect_error(use_awaitable, ec));
         }
     }
 
@@ -109,9 +153,11 @@ struct HttpServer::Impl
         try {
             beast::tcp_stream stream(std::move(socket));
             beast::flat_buffer buffer;
+            stream.expires_after(limits.handshake);
             const bool isTls = co_await beast::async_detect_ssl(stream, buffer, use_awaitable);
             if (isTls) {
                 beast::ssl_stream<beast::tcp_stream> secure(std::move(stream), tls);
+                beast::get_lowest_layer(secure).expires_after(limits.handshake);
                 const std::size_t used = co_await secure.async_handshake(
                     asio::ssl::stream_base::server, buffer.data(), use_awaitable);
                 buffer.consume(used);
@@ -120,16 +166,63 @@ struct HttpServer::Impl
                 co_await serve(stream, buffer, false);
             }
         } catch (const std::exception &) {
-            // A peer that goes away or speaks nonsense ends its own session only.
+            // A peer that goes away, stalls or speaks nonsense ends its own session only.
         }
+    }
+
+    template <typename Stream>
+    asio::awaitable<void> refuse(Stream &stream, int status, unsigned version)
+    {
+        bhttp::response<bhttp::string_body> response{static_cast<bhttp::status>(status), version ? version : 11};
+        response.set(bhttp::field::server, "quorva-sandbox");
+        response.set(bhttp::field::content_type, "application/json");
+        response.body() = std::string(R"({"error":")") + reasonFor(status) + "\"}";
+        response.keep_alive(false);
+        response.prepare_payload();
+        beast::get_lowest_layer(stream).expires_after(limits.write);
+        co_await bhttp::async_write(stream, response, use_awaitable);
+        beast::get_lowest_layer(stream).socket().shutdown(tcp::socket::shutdown_send);
+    }
+
+    // Holds the connection open without answering until the client hangs up.
+    template <typename Stream>
+    asio::awaitable<void> waitForHangUp(Stream &stream)
+    {
+        auto &lowest = beast::get_lowest_layer(stream);
+        lowest.expires_never();
+        beast::error_code ec;
+        co_await lowest.socket().async_wait(tcp::socket::wait_read, asio::redirect_error(use_awaitable, ec));
+    }
+
+    template <typename Stream>
+    asio::awaitable<void> writeRaw(Stream &stream, const std::string &bytes)
+    {
+        beast::get_lowest_layer(stream).expires_after(limits.write);
+        co_await asio::async_write(stream, asio::buffer(bytes), use_awaitable);
     }
 
     template <typename Stream>
     asio::awaitable<void> serve(Stream &stream, beast::flat_buffer &buffer, bool isTls)
     {
+        auto &lowest = beast::get_lowest_layer(stream);
         for (;;) {
-            bhttp::request<bhttp::string_body> message;
-            co_await bhttp::async_read(stream, buffer, message, use_awaitable);
+            bhttp::request_parser<bhttp::string_body> parser;
+            parser.header_limit(limits.headerBytes);
+            parser.body_limit(limits.bodyBytes);
+            beast::error_code ec;
+            lowest.expires_after(limits.header);
+            co_await bhttp::async_read_header(stream, buffer, parser, asio::redirect_error(use_awaitable, ec));
+            if (!ec) {
+                lowest.expires_after(limits.body);
+                co_await bhttp::async_read(stream, buffer, parser, asio::redirect_error(use_awaitable, ec));
+            }
+            if (ec) {
+                // The parser fills in the target once the request line is complete.
+                if (const int status = statusForReadError(ec, !parser.get().target().empty()))
+                    co_await refuse(stream, status, parser.is_header_done() ? parser.get().version() : 11);
+                co_return;
+            }
+            const bhttp::request<bhttp::string_body> &message = parser.get();
 
             HttpRequest request;
             request.method = std::string(message.method_string());
@@ -151,9 +244,30 @@ struct HttpServer::Impl
                 asio::steady_timer timer(io, reply.delay);
                 co_await timer.async_wait(use_awaitable);
             }
-            if (reply.fault == HttpResponse::Fault::DropConnection) {
-                beast::get_lowest_layer(stream).socket().close();
+            while (reply.releaseWhen && !reply.releaseWhen()) {
+                asio::steady_timer poll(io, std::chrono::milliseconds(5));
+                co_await poll.async_wait(use_awaitable);
+            }
+            switch (reply.fault) {
+            case HttpResponse::Fault::DropConnection:
+                lowest.socket().close();
                 co_return;
+            case HttpResponse::Fault::Stall:
+                co_await waitForHangUp(stream);
+                co_return;
+            case HttpResponse::Fault::EndlessHeaders:
+                co_await writeRaw(stream, "HTTP/1.1 200 OK\r\n");
+                for (int line = 0;; ++line)
+                    co_await writeRaw(stream, "X-Filler-" + std::to_string(line) + ": " + std::string(1000, 'h') + "\r\n");
+            case HttpResponse::Fault::EndlessBody: {
+                co_await writeRaw(stream, "HTTP/1.1 200 OK\r\nContent-Type: application/json\r\n"
+                                          "Transfer-Encoding: chunked\r\n\r\n");
+                const std::string piece = chunk(64 * 1024);
+                for (;;)
+                    co_await writeRaw(stream, piece);
+            }
+            default:
+                break;
             }
 
             bhttp::response<bhttp::string_body> response{static_cast<bhttp::status>(reply.status),
@@ -167,30 +281,35 @@ struct HttpServer::Impl
             response.keep_alive(message.keep_alive());
             response.prepare_payload();
 
-            if (reply.fault == HttpResponse::Fault::TruncateBody) {
-                // Announce the full length, send half of it, then hang up.
+            if (reply.fault == HttpResponse::Fault::TruncateBody || reply.fault == HttpResponse::Fault::StallMidBody) {
+                // Announce the full length and send half of it.
                 std::ostringstream wire;
                 wire << response;
                 const std::string bytes = wire.str();
                 const std::size_t headerEnd = bytes.find("\r\n\r\n") + 4;
                 const std::size_t cut = headerEnd + (bytes.size() - headerEnd) / 2;
-                co_await asio::async_write(stream, asio::buffer(bytes.data(), cut), use_awaitable);
-                beast::get_lowest_layer(stream).socket().close();
+                co_await writeRaw(stream, bytes.substr(0, cut));
+                if (reply.fault == HttpResponse::Fault::StallMidBody)
+                    co_await waitForHangUp(stream);
+                else
+                    lowest.socket().close();
                 co_return;
             }
             const bool keepAlive = response.keep_alive();
+            lowest.expires_after(limits.write);
             co_await bhttp::async_write(stream, response, use_awaitable);
             if (!keepAlive) {
-                beast::get_lowest_layer(stream).socket().shutdown(tcp::socket::shutdown_send);
+                lowest.socket().shutdown(tcp::socket::shutdown_send);
                 co_return;
             }
         }
     }
 };
 
-HttpServer::HttpServer(Handler handler, TlsMaterial material) : d(std::make_unique<Impl>())
+HttpServer::HttpServer(Handler handler, TlsMaterial material, ServerLimits limits) : d(std::make_unique<Impl>())
 {
     d->handler = std::move(handler);
+    d->limits = limits;
     d->tls.set_options(asio::ssl::context::default_workarounds | asio::ssl::context::no_sslv2
                        | asio::ssl::context::no_sslv3 | asio::ssl::context::no_tlsv1
                        | asio::ssl::context::no_tlsv1_1);

@@ -27,7 +27,15 @@ struct HttpRequest
 
 struct HttpResponse
 {
-    enum class Fault { None, DropConnection, TruncateBody };
+    enum class Fault {
+        None,
+        DropConnection,     // hang up instead of answering
+        TruncateBody,       // announce the full length, send half, hang up
+        Stall,              // never answer; wait until the client hangs up
+        StallMidBody,       // send the head and half the body, then wait
+        EndlessBody,        // a chunked body that never ends
+        EndlessHeaders,     // a status line followed by header lines without end
+    };
 
     int status = 200;
     std::string contentType = "application/json";
@@ -35,6 +43,8 @@ struct HttpResponse
     std::map<std::string, std::string> headers;
     Fault fault = Fault::None;
     std::chrono::milliseconds delay{0};
+    // When set, the answer waits until this returns true (asked on the server's thread).
+    std::function<bool()> releaseWhen;
 
     static HttpResponse json(int status, std::string body);
 };
@@ -47,13 +57,25 @@ struct TlsMaterial
     std::string privateKeyPem;
 };
 
+// How long a peer may take over each step before its connection is closed, and how
+// large a request may be. A slow or silent peer never holds a connection for good.
+struct ServerLimits
+{
+    std::chrono::milliseconds handshake{10000};   // TLS detection and handshake
+    std::chrono::milliseconds header{15000};      // the next request's head (also idle keep-alive)
+    std::chrono::milliseconds body{30000};        // the request body
+    std::chrono::milliseconds write{30000};       // sending the answer
+    std::uint32_t headerBytes = 16 * 1024;
+    std::uint64_t bodyBytes = 1024 * 1024;
+};
+
 // HTTP/1.1 server that answers plain and TLS connections on the same port: the first
 // bytes of a connection tell whether a TLS handshake starts. Handlers run on the
 // server's one I/O thread, so they need no locks among themselves.
 class HttpServer
 {
 public:
-    HttpServer(Handler handler, TlsMaterial tls);
+    HttpServer(Handler handler, TlsMaterial tls, ServerLimits limits = {});
     ~HttpServer();
     HttpServer(const HttpServer &) = delete;
     HttpServer &operator=(const HttpServer &) = delete;

@@ -7,16 +7,23 @@
 
 #include <csignal>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 
 #ifndef QUORVA_SANDBOX_EXECUTABLE
 #error "QUORVA_SANDBOX_EXECUTABLE must name the sandbox binary"
 #endif
 
-SandboxProcess::SandboxProcess(const QStringList &extraArguments, const QString &dataDirectory)
+SandboxProcess::SandboxProcess(const QStringList &extraArguments, const QString &dataDirectory, int openFileLimit)
     : m_dataDirectory(dataDirectory.isEmpty() ? m_tempDir.path() : dataDirectory)
 {
-    // The sandbox goes away with its parent, even when the parent crashes.
-    m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGTERM); });
+    m_process.setChildProcessModifier([openFileLimit] {
+        // The sandbox goes away with its parent, even when the parent crashes.
+        ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+        if (openFileLimit > 0) {
+            const rlimit limit{rlim_t(openFileLimit), rlim_t(openFileLimit)};
+            ::setrlimit(RLIMIT_NOFILE, &limit);
+        }
+    });
     m_process.setProcessChannelMode(QProcess::SeparateChannels);
     m_process.start(executable(), QStringList{QStringLiteral("--port"), QStringLiteral("0"),
                                               QStringLiteral("--data-dir"), m_dataDirectory,

@@ -11,12 +11,16 @@
 class SandboxProcess
 {
 public:
-    // dataDirectory empty: a fresh temporary folder.
-    explicit SandboxProcess(const QStringList &extraArguments = {}, const QString &dataDirectory = {});
+    // dataDirectory empty: a fresh temporary folder. openFileLimit above 0 caps the
+    // number of file handles the sandbox may hold (to test running out of them).
+    explicit SandboxProcess(const QStringList &extraArguments = {}, const QString &dataDirectory = {},
+                            int openFileLimit = 0);
     ~SandboxProcess();
 
     bool isRunning() const { return m_port != 0; }
     quint16 port() const { return m_port; }
+    // True while the process runs (it may have stopped serving).
+    bool processAlive() const { return m_process.state() == QProcess::Running; }
     QString baseAddress() const;
     QList<QSslCertificate> caCertificates() const;
     void stop();

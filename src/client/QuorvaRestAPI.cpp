@@ -5,6 +5,7 @@
 #include "ServiceTimestamp.h"
 #include "UserAgent.h"
 #include "../ui/QVDevice.h"
+#include "../ui/QVPictureNetwork.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>
@@ -13,10 +14,9 @@
 #include <QtCore/QThreadPool>
 #include <QtCore/QUrl>
 #include <QtCore/QUuid>
-#include <QtNetwork/QNetworkAccessManager>
-#include <QtNetwork/QNetworkRequest>
 
 using quorva::detail::RequestPipeline;
+using quorva::detail::TransferRequest;
 
 namespace {
 constexpr QLatin1StringView kProductionHost("api.quorvamedia.com");
@@ -61,11 +61,23 @@ constexpr QLatin1StringView offerName("offer_name");
 constexpr QLatin1StringView completedAt("completed_at");
 } // namespace body
 
+namespace requestname {
+constexpr const char *offers = "offers";
+constexpr const char *profile = "profile";
+constexpr const char *categories = "categories";
+constexpr const char *history = "history";
+constexpr const char *ticket = "ticket";
+} // namespace requestname
+
 namespace logline {
 constexpr QLatin1StringView unknownProfile("corvelId doesn't exist for the specified pubId");
 constexpr QLatin1StringView noTransactions("No transactions in history");
 constexpr QLatin1StringView ticketParams("params: %1");
 } // namespace logline
+
+// Requests block a pool thread while on the wire, so the pool has room for several
+// slow ones beside the fast ones.
+constexpr int kMinimumConnectionThreads = 16;
 
 constexpr int kStatusCreated = 201;
 constexpr int kStatusNoContent = 204;
@@ -98,12 +110,25 @@ void insertIfPresent(QJsonObject &object, QLatin1StringView key, const QString &
     if (!value.isNull())
         object.insert(key, value);
 }
+
+// An absent required value is a programming error of the caller: stop, in every build.
+void require(const QString &value, const char *request, const char *name)
+{
+    if (value.isNull())
+        qFatal("QuorvaRestAPI::%s: %s must be set", request, name);
+}
+
+// The header value without line breaks, so a host's name cannot add header lines.
+QByteArray headerValue(const QString &text)
+{
+    QByteArray value = text.toUtf8();
+    value.replace('\r', ' ').replace('\n', ' ');
+    return value;
+}
 } // namespace
 
 QuorvaRestAPI::QuorvaRestAPI(QObject *parent)
-    : QObject(parent),
-      m_baseAddress(kProductionHost),
-      m_sslConfiguration(QSslConfiguration::defaultConfiguration())
+    : QObject(parent), m_baseAddress(kProductionHost), m_extraAuthorities(std::make_shared<QList<QByteArray>>())
 {
 }
 
@@ -125,6 +150,7 @@ QThreadPool *QuorvaRestAPI::connectionQueue() const
     static QThreadPool *pool = [] {
         auto *p = new QThreadPool;
         p->setExpiryTimeout(30000);
+        p->setMaxThreadCount(qMax(kMinimumConnectionThreads, QThread::idealThreadCount()));
         return p;
     }();
     return pool;
@@ -137,20 +163,26 @@ void QuorvaRestAPI::setServiceBaseAddress(const QString &hostAndOptionalPort)
 
 void QuorvaRestAPI::addCaCertificates(const QList<QSslCertificate> &certificates)
 {
-    m_sslConfiguration.addCaCertificates(certificates);
+    auto authorities = std::make_shared<QList<QByteArray>>(*m_extraAuthorities);
+    for (const QSslCertificate &certificate : certificates)
+        authorities->append(certificate.toDer());
+    m_extraAuthorities = std::move(authorities);
+    QVPictureNetwork::addCaCertificates(certificates);
+}
+
+void QuorvaRestAPI::setTransferTimeout(std::chrono::milliseconds timeout)
+{
+    m_transferTimeout = timeout;
+}
+
+void QuorvaRestAPI::setMaximumReplySize(qint64 bytes)
+{
+    m_maximumReplySize = bytes;
 }
 
 void QuorvaRestAPI::setAdvertisingInfoProvider(AdvertisingInfoProvider provider)
 {
     m_advertisingInfoProvider = std::move(provider);
-}
-
-QNetworkAccessManager *QuorvaRestAPI::networkAccessManager()
-{
-    Q_ASSERT(QThread::currentThread() == thread());
-    if (!m_network)
-        m_network = new QNetworkAccessManager(this);
-    return m_network;
 }
 
 QVAdvertisingInfo QuorvaRestAPI::advertisingInfo() const
@@ -208,20 +240,25 @@ QString QuorvaRestAPI::userPath(const char *pathFormat) const
     return QString::fromLatin1(pathFormat).arg(m_pubId, m_corvelId, m_subId1);
 }
 
-QNetworkRequest QuorvaRestAPI::requestFor(const QString &address)
+TransferRequest QuorvaRestAPI::requestFor(const char *name, const QString &address)
 {
-    // Strict parsing: an address the host made invalid (a blank in a sub-identifier)
-    // must fail rather than be silently repaired.
-    QNetworkRequest request(QUrl(address, QUrl::StrictMode));
-    request.setHeader(QNetworkRequest::UserAgentHeader, customUserAgent());
-    request.setSslConfiguration(m_sslConfiguration);
+    TransferRequest request;
+    request.name = name;
+    request.method = "GET";
+    // Sent as written: an address the host made unsendable (a blank in a
+    // sub-identifier) fails rather than being repaired.
+    request.address = address;
+    request.userAgent = headerValue(customUserAgent());
+    request.timeout = m_transferTimeout;
+    request.maximumReplySize = m_maximumReplySize;
+    request.extraAuthorities = m_extraAuthorities;
     return request;
 }
 
 void QuorvaRestAPI::fetchOffers(quint64 offset, const QString &sortby, const QString &category,
                                 bool featured, OffersCallback callback, FailureCallback failure)
 {
-    Q_ASSERT_X(!m_subId1.isNull(), "fetchOffers", "subId1 must be set before requesting offers");
+    require(m_subId1, "fetchOffers", "subId1");
     const QVAdvertisingInfo advertising = advertisingInfo();
     QVariantMap params{
         {query::subid1, m_subId1},
@@ -244,8 +281,7 @@ void QuorvaRestAPI::fetchOffers(quint64 offset, const QString &sortby, const QSt
 
     const QString address = urlString(addressFor(kHttps, profilePath(kOffersPath)), params);
     RequestPipeline::send<QList<QVOffer>>(
-        networkAccessManager(), connectionQueue(), requestFor(address), "GET", {},
-        &quorva::detail::parseOffers,
+        connectionQueue(), requestFor(requestname::offers, address), &quorva::detail::parseOffers,
         [callback = std::move(callback)](int status, const QList<QVOffer> &offers) {
             callback(offers, status != kStatusNoContent);
         },
@@ -257,8 +293,7 @@ void QuorvaRestAPI::fetchProfile(ProfileCallback callback, FailureCallback failu
     // The profile details are served over plain http.
     const QString address = urlString(addressFor(kHttp, profilePath(kProfilePath)), std::nullopt);
     RequestPipeline::send<QVProfile>(
-        networkAccessManager(), connectionQueue(), requestFor(address), "GET", {},
-        &quorva::detail::parseProfile,
+        connectionQueue(), requestFor(requestname::profile, address), &quorva::detail::parseProfile,
         [callback = std::move(callback)](int status, const QVProfile &profile) {
             if (status == kStatusNotFound) {
                 // Neither callback runs: the caller keeps its current display.
@@ -275,8 +310,7 @@ void QuorvaRestAPI::fetchCategories(CategoriesCallback callback, FailureCallback
     const QString address = urlString(addressFor(kHttps, QString::fromLatin1(kCategoriesPath)),
                                       QVariantMap{{query::visibility, QStringLiteral("1")}});
     RequestPipeline::send<QList<QVCategory>>(
-        networkAccessManager(), connectionQueue(), requestFor(address), "GET", {},
-        &quorva::detail::parseCategories,
+        connectionQueue(), requestFor(requestname::categories, address), &quorva::detail::parseCategories,
         [callback = std::move(callback)](int, const QList<QVCategory> &categories) {
             callback(categories);
         },
@@ -287,8 +321,7 @@ void QuorvaRestAPI::fetchHistory(HistoryCallback callback, FailureCallback failu
 {
     const QString address = urlString(addressFor(kHttps, userPath(kHistoryPath)), std::nullopt);
     RequestPipeline::send<QList<QVTransaction>>(
-        networkAccessManager(), connectionQueue(), requestFor(address), "GET", {},
-        &quorva::detail::parseTransactions,
+        connectionQueue(), requestFor(requestname::history, address), &quorva::detail::parseTransactions,
         [callback = std::move(callback)](int status, const QList<QVTransaction> &transactions) {
             if (status == kStatusNoContent)
                 qCInfo(lcQuorva).noquote() << logline::noTransactions;
@@ -302,8 +335,9 @@ void QuorvaRestAPI::createSupportTicket(const QString &name, const QString &emai
                                         const QString &offerName, const QString &completedAt,
                                         TicketCallback callback, FailureCallback failure)
 {
-    Q_ASSERT_X(!name.isNull() && !emailId.isNull() && !subject.isNull(), "createSupportTicket",
-               "name, e-mail address and subject are required");
+    require(name, "createSupportTicket", "name");
+    require(emailId, "createSupportTicket", "emailId");
+    require(subject, "createSupportTicket", "subject");
     QJsonObject ticket{{body::name, name}, {body::email, emailId}, {body::subjectId, subject}};
     insertIfPresent(ticket, body::offerName, offerName);
     insertIfPresent(ticket, body::completedAt, completedAt);
@@ -313,11 +347,12 @@ void QuorvaRestAPI::createSupportTicket(const QString &name, const QString &emai
         << QString(logline::ticketParams)
                .arg(QString::fromUtf8(QJsonDocument(ticket).toJson(QJsonDocument::Compact)));
 
-    QNetworkRequest request = requestFor(addressFor(kHttps, userPath(kTicketPath)));
-    request.setHeader(QNetworkRequest::ContentTypeHeader, QString(kJsonContentType));
+    TransferRequest request = requestFor(requestname::ticket, addressFor(kHttps, userPath(kTicketPath)));
+    request.method = "POST";
+    request.contentType = kJsonContentType.latin1();
+    request.body = payload;
     RequestPipeline::send<QVariant>(
-        networkAccessManager(), connectionQueue(), request, "POST", payload,
-        &quorva::detail::parseTicketId,
+        connectionQueue(), std::move(request), &quorva::detail::parseTicketId,
         [callback = std::move(callback), failure](int status, const QVariant &ticketId) {
             if (status == kStatusCreated)
                 callback(ticketId);

@@ -12,18 +12,20 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 #include <QtNetwork/QSslCertificate>
-#include <QtNetwork/QSslConfiguration>
 
+#include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
 
-class QNetworkAccessManager;
-class QNetworkRequest;
 class QThreadPool;
+namespace quorva::detail { struct TransferRequest; }
 
 // The one client of the offer service. Holds the publisher, profile and user identifiers
 // and the targeting values; every request is asynchronous and reports back on the GUI
-// thread, always after the call that started it has returned.
+// thread, always after the call that started it has returned. Every request ends in
+// exactly one callback and goes on the wire exactly once: a reply with any HTTP status
+// is a response; a transport failure, the transfer time-out or the size cap is a failure.
 class QUORVAMEDIA_EXPORT QuorvaRestAPI : public QObject
 {
     Q_OBJECT
@@ -37,9 +39,13 @@ public:
     using FailureCallback = std::function<void()>;
     using AdvertisingInfoProvider = std::function<QVAdvertisingInfo()>;
 
+    static constexpr std::chrono::milliseconds kDefaultTransferTimeout{60000};
+    static constexpr qint64 kDefaultMaximumReplySize = 4 * 1024 * 1024;
+
     static QuorvaRestAPI *sharedInstance();
 
-    // Worker pool on which replies are parsed; the same pool for every instance.
+    // Worker pool from which requests are sent and on which replies are parsed; the same
+    // pool for every instance.
     QThreadPool *connectionQueue() const;
 
     QString pubId() const { return m_pubId; }
@@ -66,14 +72,19 @@ public:
     // Extra certificate authorities trusted by every request of the library (REST and
     // pictures), on top of the system's. Certificate checks are never switched off.
     void addCaCertificates(const QList<QSslCertificate> &certificates);
-    QSslConfiguration sslConfiguration() const { return m_sslConfiguration; }
+
+    // How long a request may take from its start to the last byte of the reply before
+    // it ends in the failure callback (60 s unless set).
+    void setTransferTimeout(std::chrono::milliseconds timeout);
+    std::chrono::milliseconds transferTimeout() const { return m_transferTimeout; }
+    // The most a reply (head and body) may hold; a larger one is stopped and ends in
+    // the failure callback (4 MiB unless set).
+    void setMaximumReplySize(qint64 bytes);
+    qint64 maximumReplySize() const { return m_maximumReplySize; }
 
     // Read anew for every offers request. Without a provider the all-zero identifier
     // is sent and tracking counts as not allowed.
     void setAdvertisingInfoProvider(AdvertisingInfoProvider provider);
-
-    // The network access manager shared by the REST client and the picture loader.
-    QNetworkAccessManager *networkAccessManager();
 
     QString urlString(const QString &base, const std::optional<QVariantMap> &params) const;
     QString customUserAgent();
@@ -95,7 +106,7 @@ private:
     QString addressFor(const char *scheme, const QString &path) const;
     QString profilePath(const char *pathFormat) const;
     QString userPath(const char *pathFormat) const;
-    QNetworkRequest requestFor(const QString &address);
+    quorva::detail::TransferRequest requestFor(const char *name, const QString &address);
     QVAdvertisingInfo advertisingInfo() const;
 
     QString m_pubId;
@@ -108,9 +119,11 @@ private:
     QString m_subId4;
 
     QString m_baseAddress;
-    QSslConfiguration m_sslConfiguration;
+    // Replaced, never changed, so requests in flight keep the list they started with.
+    std::shared_ptr<const QList<QByteArray>> m_extraAuthorities;
+    std::chrono::milliseconds m_transferTimeout = kDefaultTransferTimeout;
+    qint64 m_maximumReplySize = kDefaultMaximumReplySize;
     AdvertisingInfoProvider m_advertisingInfoProvider;
-    QNetworkAccessManager *m_network = nullptr;
     QString m_cachedApplicationName;
     QString m_cachedDeviceModel;
 };

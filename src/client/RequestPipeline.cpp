@@ -2,11 +2,7 @@
 #include "QuorvaLog.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QRunnable>
 #include <QtCore/QThreadPool>
-#include <QtCore/QUrl>
-#include <QtNetwork/QNetworkAccessManager>
-#include <QtNetwork/QNetworkReply>
 
 namespace quorva::detail {
 
@@ -18,44 +14,30 @@ void postToGuiThread(std::function<void()> fn)
     QMetaObject::invokeMethod(app, std::move(fn), Qt::QueuedConnection);
 }
 
-bool RequestPipeline::isHttpStatusError(int networkError)
-{
-    return (networkError >= QNetworkReply::ContentAccessDenied
-            && networkError <= QNetworkReply::UnknownContentError)
-        || (networkError >= QNetworkReply::InternalServerError
-            && networkError <= QNetworkReply::UnknownServerError);
-}
-
-void RequestPipeline::send(QNetworkAccessManager *network, QThreadPool *pool,
-                           const QNetworkRequest &request, const QByteArray &verb,
-                           const QByteArray &body, ResponseHandler onResponse,
+void RequestPipeline::send(QThreadPool *pool, TransferRequest request, ResponseHandler onResponse,
                            FailureHandler onFailure)
 {
-    if (!request.url().isValid()) {
+    // Diagnostics name the request, never the values it carries.
+    if (!HttpTransport::isSendableAddress(request.address)) {
         qCWarning(lcQuorvaDiagnostics).noquote()
-            << "request address is not valid:" << request.url().errorString();
+            << request.name << "request not sent: its address holds a character that cannot stand unescaped";
         postToGuiThread(std::move(onFailure));
         return;
     }
-
-    QNetworkReply *reply = network->sendCustomRequest(request, verb, body);
-    QObject::connect(reply, &QNetworkReply::finished, reply,
-                     [reply, pool, onResponse = std::move(onResponse),
-                      onFailure = std::move(onFailure)]() mutable {
-        reply->deleteLater();
-        const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-        const int error = reply->error();
-        const bool answered = status.isValid()
-            && (error == QNetworkReply::NoError || isHttpStatusError(error));
-        if (!answered) {
-            // Already on the GUI thread, but the callback still goes through the event
-            // loop so that every callback takes the same path.
-            postToGuiThread(std::move(onFailure));
+    pool->start([request = std::move(request), onResponse = std::move(onResponse),
+                 onFailure = std::move(onFailure)]() mutable {
+        const TransferResult result = HttpTransport::perform(request);
+        if (result.answered()) {
+            onResponse(result.status, result.body);
             return;
         }
-        const int code = status.toInt();
-        const QByteArray data = reply->readAll();
-        pool->start([onResponse = std::move(onResponse), code, data] { onResponse(code, data); });
+        if (result.outcome == TransferResult::Outcome::TimedOut)
+            qCWarning(lcQuorvaDiagnostics).noquote()
+                << request.name << "request timed out after" << request.timeout.count() << "ms";
+        else if (result.outcome == TransferResult::Outcome::TooLarge)
+            qCWarning(lcQuorvaDiagnostics).noquote()
+                << request.name << "request stopped: the reply exceeds" << result.exceededLimit << "bytes";
+        postToGuiThread(std::move(onFailure));
     });
 }
 

@@ -1,15 +1,13 @@
 #pragma once
 
 #include "quorvamedia_global.h"
+#include "HttpTransport.h"
 
 #include <QtCore/QByteArray>
-#include <QtCore/QString>
-#include <QtNetwork/QNetworkRequest>
 
 #include <functional>
 #include <memory>
 
-class QNetworkAccessManager;
 class QThreadPool;
 
 namespace quorva::detail {
@@ -17,9 +15,10 @@ namespace quorva::detail {
 // Runs fn on the GUI thread from the event loop, never synchronously.
 QUORVAMEDIA_EXPORT void postToGuiThread(std::function<void()> fn);
 
-// Sends one request and routes its outcome. A reply that carries an HTTP status is a
-// response, whatever the status; only a transport failure (no connection, dropped
-// connection, TLS failure, invalid address) takes the failure path.
+// Sends one request from the worker pool and routes its outcome: a reply that carries an
+// HTTP status is a response, whatever the status; a transport failure, the time-out,
+// the size cap or an address that cannot be sent is a failure. Exactly one of the two
+// handlers runs, once.
 class QUORVAMEDIA_EXPORT RequestPipeline
 {
 public:
@@ -28,28 +27,23 @@ public:
     using ResponseHandler = std::function<void(int status, const QByteArray &body)>;
     using FailureHandler = std::function<void()>;
 
-    static void send(QNetworkAccessManager *network, QThreadPool *pool, const QNetworkRequest &request,
-                     const QByteArray &verb, const QByteArray &body, ResponseHandler onResponse,
+    static void send(QThreadPool *pool, TransferRequest request, ResponseHandler onResponse,
                      FailureHandler onFailure);
 
     // Parses on the pool, then delivers the parsed value and the status on the GUI thread.
     template <typename Parsed>
-    static void send(QNetworkAccessManager *network, QThreadPool *pool, const QNetworkRequest &request,
-                     const QByteArray &verb, const QByteArray &body,
+    static void send(QThreadPool *pool, TransferRequest request,
                      std::function<Parsed(const QByteArray &)> parse,
                      std::function<void(int status, const Parsed &)> deliver,
                      FailureHandler onFailure)
     {
-        send(network, pool, request, verb, body,
+        send(pool, std::move(request),
              [parse = std::move(parse), deliver = std::move(deliver)](int status, const QByteArray &data) {
                  auto parsed = std::make_shared<Parsed>(parse(data));
                  postToGuiThread([deliver, status, parsed] { deliver(status, *parsed); });
              },
              std::move(onFailure));
     }
-
-    // True when the reply error only mirrors an HTTP error status.
-    static bool isHttpStatusError(int networkError);
 };
 
 } // namespace quorva::detail

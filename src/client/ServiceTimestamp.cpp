@@ -2,14 +2,16 @@
 
 #include <QtCore/QDateTime>
 #include <QtCore/QRegularExpression>
-#include <QtCore/QTimeZone>
 
 namespace quorva::detail {
 
 namespace {
-// The offset takes the numeric forms +0000 and +00:00, and a literal Z for UTC.
+// The offset takes the numeric forms +0000 and +00:00, and a literal Z for UTC. \z, not
+// $, so that nothing (not even a line break) may follow.
 const QRegularExpression kServiceFormat(
-    QStringLiteral(R"(^(\d{4})-(\d{2})-(\d{2})T(\d{2}):(\d{2}):(\d{2})(?:([+-])(\d{2}):?(\d{2})|Z)$)"));
+    QStringLiteral(R"(^(\d{4})-(\d{2})-(\d{2})T(\d{2}):(\d{2}):(\d{2})(?:([+-])(\d{2}):?(\d{2})|Z)\z)"));
+constexpr int kFirstYear = 1;
+constexpr int kLastYear = 9999;
 }
 
 QString displayTimestamp(const QString &serviceTimestamp)
@@ -30,7 +32,10 @@ QString displayTimestamp(const QString &serviceTimestamp)
             return {};
         offsetSeconds = (hours * 3600 + minutes * 60) * (match.capturedView(7) == u"-" ? -1 : 1);
     }
-    const QDateTime local = QDateTime(date, time, QTimeZone(offsetSeconds)).toLocalTime();
+    // Through UTC by hand: a zone object refuses offsets beyond 14 hours.
+    const QDateTime local = QDateTime(date, time, Qt::UTC).addSecs(-offsetSeconds).toLocalTime();
+    if (!local.isValid() || local.date().year() < kFirstYear || local.date().year() > kLastYear)
+        return {};
     const QTime t = local.time();
     const int hour12 = t.hour() % 12 == 0 ? 12 : t.hour() % 12;
     return QStringLiteral("%1/%2/%3 %4:%5:%6")

@@ -1,8 +1,8 @@
 #include "QVImageView.h"
 #include "QVImageCache.h"
-#include "QuorvaRestAPI.h"
-#include "RequestPipeline.h"
+#include "QVPictureNetwork.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 #include <QtCore/QThreadPool>
 #include <QtGui/QPainter>
@@ -12,7 +12,21 @@
 #include <QtQuick/QQuickWindow>
 #include <QtQuick/QSGImageNode>
 
-using quorva::detail::RequestPipeline;
+namespace {
+// True when the server answered, whatever the status; network-layer failures (a refused
+// or dropped connection, a cut body) are not answers.
+bool answered(const QNetworkReply *reply)
+{
+    const int error = reply->error();
+    return reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid()
+        && (error == QNetworkReply::NoError || error >= QNetworkReply::ContentAccessDenied);
+}
+
+void postToGui(QObject *context, std::function<void()> fn)
+{
+    QMetaObject::invokeMethod(context, std::move(fn), Qt::QueuedConnection);
+}
+} // namespace
 
 QVImageView::QVImageView(QQuickItem *parent) : QQuickItem(parent)
 {
@@ -49,20 +63,17 @@ void QVImageView::downloadImage(std::shared_ptr<DownloadOperation> operation)
     if (operation->cancelled || m_downloadOperation->cancelled)
         return;
 
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    QNetworkRequest request(operation->url);
-    request.setSslConfiguration(api->sslConfiguration());
-    QNetworkReply *reply = api->networkAccessManager()->get(request);
+    QNetworkReply *reply = QVPictureNetwork::get(operation->url);
     const QString key = operation->url.toString();
     QPointer<QVImageView> self(this);
-    connect(reply, &QNetworkReply::finished, reply, [reply, self, key] {
+    connect(reply, &QNetworkReply::finished, reply, [reply, self, key, operation] {
         reply->deleteLater();
-        const bool answered = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid()
-            && (reply->error() == QNetworkReply::NoError || RequestPipeline::isHttpStatusError(reply->error()));
-        if (!answered || !self || self->m_downloadOperation->cancelled)
+        if (!answered(reply) || !self || self->m_downloadOperation->cancelled) {
+            operation->finished = true;
             return;
+        }
         const QByteArray bytes = reply->readAll();
-        QVImageCache::sharedOperationQueue()->start([bytes, key, self] {
+        QVImageCache::sharedOperationQueue()->start([bytes, key, self, operation] {
             // The status is not checked: a body that is no picture decodes to nothing
             // and clears the view.
             QImage image;
@@ -70,7 +81,8 @@ void QVImageView::downloadImage(std::shared_ptr<DownloadOperation> operation)
             if (!image.isNull())
                 image.convertTo(QImage::Format_ARGB32_Premultiplied);
             QVImageCache::sharedImageCache()->insert(key, image);
-            quorva::detail::postToGuiThread([self, image] {
+            postToGui(QCoreApplication::instance(), [self, image, operation] {
+                operation->finished = true;
                 if (self)
                     self->setImage(image);
             });

@@ -26,6 +26,7 @@ public:
     {
         QUrl url;
         bool cancelled = false;
+        bool finished = false;  // its download ended, whatever the outcome
     };
 
     explicit QVImageView(QQuickItem *parent = nullptr);

@@ -1,44 +1,52 @@
 #include "QVFilterListModel.h"
 #include "QVFiltersViewController.h"
 
+namespace {
+constexpr QLatin1StringView kHeaderKind("header");
+constexpr QLatin1StringView kCellKind("cell");
+} // namespace
+
 QVFilterListModel::QVFilterListModel(QVFiltersViewController *panel) : QAbstractListModel(panel), m_panel(panel) {}
 
 int QVFilterListModel::rowCount(const QModelIndex &parent) const
 {
     if (parent.isValid())
         return 0;
-    return m_panel->numberOfItems(QVFiltersViewController::kTypeSection)
+    return 2 + m_panel->numberOfItems(QVFiltersViewController::kTypeSection)
         + m_panel->numberOfItems(QVFiltersViewController::kCategorySection);
 }
 
 int QVFilterListModel::flatRow(int section, int row) const
 {
-    return section == QVFiltersViewController::kTypeSection
-        ? row
-        : m_panel->numberOfItems(QVFiltersViewController::kTypeSection) + row;
+    const int headerRow = section == QVFiltersViewController::kTypeSection
+        ? 0
+        : 1 + m_panel->numberOfItems(QVFiltersViewController::kTypeSection);
+    return headerRow + 1 + row;
 }
 
 QVariant QVFilterListModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || index.row() >= rowCount())
         return {};
-    const int sortCount = m_panel->numberOfItems(QVFiltersViewController::kTypeSection);
-    const int section = index.row() < sortCount ? QVFiltersViewController::kTypeSection
-                                                : QVFiltersViewController::kCategorySection;
-    const int row = section == QVFiltersViewController::kTypeSection ? index.row() : index.row() - sortCount;
+    const int categoryHeader = flatRow(QVFiltersViewController::kCategorySection, -1);
+    const int section = index.row() < categoryHeader ? QVFiltersViewController::kTypeSection
+                                                     : QVFiltersViewController::kCategorySection;
+    const int row = index.row() - flatRow(section, 0);
+    const bool header = row < 0;
     switch (role) {
+    case KindRole:
+        return header ? QString(kHeaderKind) : QString(kCellKind);
     case SectionRole:
         return section;
     case RowRole:
         return row;
     case Qt::DisplayRole:
     case TitleRole:
-        return m_panel->titleForRow(section, row);
+        return header ? QVFiltersViewController::titleForSection(section) : m_panel->titleForRow(section, row);
     case SelectedRole:
-        return row == (section == QVFiltersViewController::kTypeSection ? m_panel->sortKeyIndex()
+        return !header
+            && row == (section == QVFiltersViewController::kTypeSection ? m_panel->sortKeyIndex()
                                                                          : m_panel->categoryKeyIndex());
-    case SectionTitleRole:
-        return QVFiltersViewController::titleForSection(section);
     default:
         return {};
     }
@@ -46,8 +54,8 @@ QVariant QVFilterListModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> QVFilterListModel::roleNames() const
 {
-    return {{SectionRole, "sectionIndex"}, {RowRole, "row"}, {TitleRole, "title"},
-            {SelectedRole, "selected"}, {SectionTitleRole, "sectionTitle"}};
+    return {{KindRole, "kind"}, {SectionRole, "sectionIndex"}, {RowRole, "row"}, {TitleRole, "title"},
+            {SelectedRole, "selected"}};
 }
 
 void QVFilterListModel::reload()

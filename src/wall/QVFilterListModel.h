@@ -6,15 +6,15 @@
 
 class QVFiltersViewController;
 
-// The filter panel's two sections flattened into one list: the sort options, then the
-// categories. Each row knows its section, its row within it, its text and whether it
-// bears the section's checkmark.
+// The filter panel's two sections flattened into one list, each behind a header row of
+// its own, so a section without rows still shows its header. A cell row knows its
+// section, its row within it, its text and whether it bears the section's checkmark.
 class QUORVAMEDIA_EXPORT QVFilterListModel : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
-    enum Role { SectionRole = Qt::UserRole + 1, RowRole, TitleRole, SelectedRole, SectionTitleRole };
+    enum Role { KindRole = Qt::UserRole + 1, SectionRole, RowRole, TitleRole, SelectedRole };
 
     explicit QVFilterListModel(QVFiltersViewController *panel);
 
@@ -24,6 +24,7 @@ public:
 
     void reload();
     void refreshSelection(int section, int row);
+    // The list row of a section's row; row -1 is the section's header.
     int flatRow(int section, int row) const;
 
 private:

@@ -6,6 +6,9 @@
 #include "QuorvaRestAPI.h"
 
 #include <QtCore/QPointer>
+#include <QtGui/QMouseEvent>
+#include <QtGui/QTouchEvent>
+#include <QtGui/QWheelEvent>
 
 namespace {
 constexpr QLatin1StringView kAllCategories("All Categories");
@@ -34,6 +37,23 @@ QVCategory namedCategory(QLatin1StringView name)
 QVFiltersViewController::QVFiltersViewController(QQuickItem *parent)
     : QQuickItem(parent), m_sortOptions(defaultSortOptions()), m_model(new QVFilterListModel(this))
 {
+    setAcceptedMouseButtons(Qt::AllButtons);
+    setAcceptTouchEvents(true);
+}
+
+void QVFiltersViewController::mousePressEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
+void QVFiltersViewController::touchEvent(QTouchEvent *event)
+{
+    event->accept();
+}
+
+void QVFiltersViewController::wheelEvent(QWheelEvent *event)
+{
+    event->accept();
 }
 
 QVFiltersViewController::~QVFiltersViewController() = default;

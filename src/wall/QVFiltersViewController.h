@@ -82,6 +82,12 @@ signals:
     void outletsChanged();
     void topMarginChanged();
 
+protected:
+    // The panel takes every press inside its area, so nothing beneath it is touched.
+    void mousePressEvent(QMouseEvent *event) override;
+    void touchEvent(QTouchEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+
 private:
     void refresh();
     void showFailureAlert();

@@ -135,7 +135,12 @@ void QVOffersViewController::viewDidLoad()
     loadMoreOffers();
     m_numberFormatter = std::make_unique<QVPayoutFormatter>();
     setHeaderText(QStringLiteral(""));
+    requestProfile();
+}
 
+void QVOffersViewController::requestProfile()
+{
+    m_profileFailed = false;
     QPointer<QVOffersViewController> self(this);
     QuorvaRestAPI::sharedInstance()->fetchProfile(
         [self](const QVProfile &profile) {
@@ -144,7 +149,18 @@ void QVOffersViewController::viewDidLoad()
             const QString name = profile.currencyName().isNull() ? QString(kAbsentText) : profile.currencyName();
             self->setHeaderText(QString(kEarnFormat).arg(name));
         },
-        [] { qCInfo(lcQuorva).noquote() << kProfileFailedLog; });
+        [self] {
+            qCInfo(lcQuorva).noquote() << kProfileFailedLog;
+            if (self)
+                self->m_profileFailed = true;
+        });
+}
+
+void QVOffersViewController::onRetryPressed()
+{
+    if (m_profileFailed)
+        requestProfile();
+    loadMoreOffers();
 }
 
 void QVOffersViewController::setLoadingOffers(bool loading)
@@ -153,6 +169,22 @@ void QVOffersViewController::setLoadingOffers(bool loading)
         return;
     m_loadingOffers = loading;
     emit loadingOffersChanged();
+    updateLoadFailed();
+}
+
+void QVOffersViewController::setLastPageFailed(bool failed)
+{
+    m_lastPageFailed = failed;
+    updateLoadFailed();
+}
+
+void QVOffersViewController::updateLoadFailed()
+{
+    const bool failed = m_lastPageFailed && m_offers->count() == 0 && !m_loadingOffers;
+    if (m_loadFailed == failed)
+        return;
+    m_loadFailed = failed;
+    emit loadFailedChanged();
 }
 
 void QVOffersViewController::loadMoreOffers()
@@ -181,12 +213,14 @@ void QVOffersViewController::loadMoreOffers()
             self->m_moreOffersAvailable = more;
             self->m_offers->append(offers);
             self->reloadData();
+            self->setLastPageFailed(false);
             self->setLoadingOffers(false);
         },
         [self] {
             qCInfo(lcQuorva).noquote() << kOffersFailedLog;
             if (!self)
                 return;
+            self->setLastPageFailed(true);
             self->setLoadingOffers(false);
             self->showFailureAlert();
         });
@@ -356,7 +390,19 @@ void QVOffersViewController::slideFilterPanel(qreal toY, bool open)
         });
     }
     m_filterAnimation = animation;
+    trackSlide(animation);
     animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void QVOffersViewController::trackSlide(QAbstractAnimation *animation)
+{
+    if (m_runningSlides++ == 0)
+        emit overlayAnimatingChanged();
+    // Stopped or replaced, an animation is destroyed once; that ends its slide.
+    connect(animation, &QObject::destroyed, this, [this] {
+        if (--m_runningSlides == 0)
+            emit overlayAnimatingChanged();
+    });
 }
 
 void QVOffersViewController::closeFiltersView()
@@ -440,6 +486,7 @@ void QVOffersViewController::onSaveFiltersPressed(const std::optional<QVCategory
     m_categoryParam = category;
     m_sortParam = sort;
     m_offers->clear();
+    updateLoadFailed();
     reloadData();
     loadMoreOffers();
     if (m_closeBtn)

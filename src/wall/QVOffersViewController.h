@@ -13,6 +13,7 @@
 
 #include <optional>
 
+class QAbstractAnimation;
 class QPropertyAnimation;
 class QVOffersListModel;
 class QVPayoutFormatter;
@@ -57,6 +58,8 @@ class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
     Q_PROPERTY(qreal popoverWidth READ popoverWidth CONSTANT FINAL)
     Q_PROPERTY(bool loadingOffers READ loadingOffers NOTIFY loadingOffersChanged FINAL)
     Q_PROPERTY(bool filtersViewOpen READ isFiltersViewOpen NOTIFY overlaysChanged FINAL)
+    Q_PROPERTY(bool overlayAnimating READ isOverlayAnimating NOTIFY overlayAnimatingChanged FINAL)
+    Q_PROPERTY(bool loadFailed READ loadFailed NOTIFY loadFailedChanged FINAL)
 
 public:
     explicit QVOffersViewController(QQuickItem *parent = nullptr);
@@ -102,13 +105,19 @@ public:
     const QList<QVOffer> &offersList() const;
     bool loadingOffers() const { return m_loadingOffers; }
     bool moreOffersAvailable() const { return m_moreOffersAvailable; }
+    // The list is empty because its last page request failed: the wall offers to try again.
+    bool loadFailed() const { return m_loadFailed; }
     bool isFiltersViewOpen() const { return m_isFiltersViewOpen; }
     bool isSupportViewOpen() const { return m_isSupportViewOpen; }
+    // True while a phone overlay slides in or out.
+    bool isOverlayAnimating() const { return m_runningSlides > 0; }
     QVFiltersViewController *filterVC() const { return m_filterVC; }
     std::optional<QVSort> sortParam() const { return m_sortParam; }
     std::optional<QVCategory> categoryParam() const { return m_categoryParam; }
 
     Q_INVOKABLE void onClosePressed();
+    // Sends the first page again (and the profile, if that failed too).
+    Q_INVOKABLE void onRetryPressed();
     Q_INVOKABLE void onFilterPressed();
     Q_INVOKABLE void onSupportPressed();
     Q_INVOKABLE void headerTapped();
@@ -130,6 +139,8 @@ signals:
     void cellSizeChanged();
     void loadingOffersChanged();
     void overlaysChanged();
+    void overlayAnimatingChanged();
+    void loadFailedChanged();
 
 protected:
     void itemChange(ItemChange change, const ItemChangeData &value) override;
@@ -141,12 +152,16 @@ private:
     void viewDidLoad();
     void reloadData();
     void setLoadingOffers(bool loading);
+    void setLastPageFailed(bool failed);
+    void updateLoadFailed();
+    void requestProfile();
     void setHeaderText(const QString &text);
     QString headerText() const;
     void showFailureAlert();
     void presentFilterPopover();
     void dismissFilterPopover();
     void slideFilterPanel(qreal toY, bool open);
+    void trackSlide(QAbstractAnimation *animation);
     void layoutFilterPanel();
     qreal listHeight() const;
 
@@ -156,6 +171,9 @@ private:
     bool m_loaded = false;
     bool m_loadingOffers = false;
     bool m_moreOffersAvailable = false;
+    bool m_lastPageFailed = false;
+    bool m_loadFailed = false;
+    bool m_profileFailed = false;
     std::optional<QVSort> m_sortParam;
     std::optional<QVCategory> m_categoryParam;
     QPointer<QVFiltersViewController> m_filterVC;
@@ -164,6 +182,7 @@ private:
     QString m_lastHeaderTitle;
     bool m_isFiltersViewOpen = false;
     bool m_isSupportViewOpen = false;
+    int m_runningSlides = 0;
 
     // Outlets: children laid out by the interface file.
     QQuickItem *m_headerView = nullptr;

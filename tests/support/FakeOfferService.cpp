@@ -40,11 +40,16 @@ FakeOfferService::FakeOfferService()
         if (endsWith("/offers.json")) {
             if (m_offersDropped)
                 return dropped();
+            if (m_offersStalled) {
+                HttpResponse stalled;
+                stalled.fault = HttpResponse::Fault::Stall;
+                return stalled;
+            }
             const auto query = rawQueryPairs(request.query);
             const int offset = query.value(QStringLiteral("offset")).toInt();
             const int limit = query.value(QStringLiteral("limit")).toInt();
             HttpResponse response;
-            response.delay = std::chrono::milliseconds(m_delayMs.load());
+            response.releaseWhen = [this] { return !m_offersHeld; };
             if (offset >= m_total) {
                 response.status = 204;
                 return response;

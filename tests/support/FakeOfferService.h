@@ -20,8 +20,11 @@ public:
     QString baseAddress() const { return m_server.baseAddress(); }
 
     void setTotalOffers(int total) { m_total = total; }
-    void setOffersDelay(std::chrono::milliseconds delay) { m_delayMs = int(delay.count()); }
+    // While held, offers answers wait; releasing lets every waiting answer go.
+    void setOffersHeld(bool held) { m_offersHeld = held; }
     void setOffersDropped(bool dropped) { m_offersDropped = dropped; }
+    // Offers requests get no answer at all.
+    void setOffersStalled(bool stalled) { m_offersStalled = stalled; }
     void setProfileDropped(bool dropped) { m_profileDropped = dropped; }
     void setCategoriesDropped(bool dropped) { m_categoriesDropped = dropped; }
     void setPayout(int payout) { m_payout = payout; }
@@ -33,8 +36,9 @@ public:
 private:
     ScriptedServer m_server;
     std::atomic<int> m_total{95};
-    std::atomic<int> m_delayMs{0};
     std::atomic<bool> m_offersDropped{false};
+    std::atomic<bool> m_offersStalled{false};
+    std::atomic<bool> m_offersHeld{false};
     std::atomic<bool> m_profileDropped{false};
     std::atomic<bool> m_categoriesDropped{false};
     std::atomic<int> m_payout{1500};

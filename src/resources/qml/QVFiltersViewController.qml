@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls.Basic
+import Qt.labs.qmlmodels
 import QuorvaMedia
 
 QVFiltersViewControllerBase {
@@ -18,21 +19,28 @@ QVFiltersViewControllerBase {
         model: panel.model
         boundsBehavior: Flickable.StopAtBounds
 
-        section.property: "sectionTitle"
-        section.delegate: QVFilterUICollectionViewHeader {
-            required property string section
-            width: ListView.view.width
-            title: section
-        }
-
-        delegate: QVFilterUICollectionViewCell {
-            required property int sectionIndex
-            required property int row
-            required title
-            required selected
-            width: ListView.view.width
-            height: panel.itemHeight
-            onPressed: panel.didSelectItem(sectionIndex, row)
+        reuseItems: true
+        delegate: DelegateChooser {
+            role: "kind"
+            DelegateChoice {
+                roleValue: "header"
+                QVFilterUICollectionViewHeader {
+                    required title
+                    width: ListView.view.width
+                }
+            }
+            DelegateChoice {
+                roleValue: "cell"
+                QVFilterUICollectionViewCell {
+                    required property int sectionIndex
+                    required property int row
+                    required title
+                    required selected
+                    width: ListView.view.width
+                    height: panel.itemHeight
+                    onPressed: panel.didSelectItem(sectionIndex, row)
+                }
+            }
         }
 
         ScrollIndicator.vertical: ScrollIndicator {}

@@ -95,6 +95,55 @@ QVOffersViewControllerBase {
         horizontalAlignment: Text.AlignHCenter
     }
 
+    // After a failed first page: what happened and a way to try again.
+    Column {
+        objectName: "loadFailedView"
+        anchors.centerIn: list
+        anchors.verticalCenterOffset: -24
+        width: Math.min(list.width - 48, 300)
+        spacing: 8
+        visible: root.loadFailed
+        Label {
+            width: parent.width
+            text: "Couldn't load offers"
+            font.pixelSize: 19
+            font.bold: true
+            color: "#2B2B36"
+            horizontalAlignment: Text.AlignHCenter
+        }
+        Label {
+            width: parent.width
+            text: "Check your connection and try again."
+            font.pixelSize: 15
+            color: "#5F5F6E"
+            wrapMode: Text.WordWrap
+            horizontalAlignment: Text.AlignHCenter
+        }
+        Item { width: 1; height: 8 }
+        Button {
+            id: retryButton
+            objectName: "retryButton"
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: "Try again"
+            implicitWidth: 160
+            implicitHeight: 44
+            onClicked: root.onRetryPressed()
+            Accessible.name: "Try loading the offers again"
+            background: Rectangle {
+                radius: 6
+                color: retryButton.pressed ? "#2D3BB0" : "#3F51D8"
+            }
+            contentItem: Label {
+                text: retryButton.text
+                font.pixelSize: 16
+                font.bold: true
+                color: "#FFFFFF"
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+            }
+        }
+    }
+
     Rectangle {
         id: header
         objectName: "headerView"

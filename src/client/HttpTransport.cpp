@@ -1,0 +1,178 @@
+#include "HttpTransport.h"
+
+#include <QtCore/QString>
+
+#include <curl/curl.h>
+#include <openssl/ssl.h>
+#include <openssl/x509.h>
+
+#include <memory>
+#include <mutex>
+
+namespace quorva::detail {
+
+namespace {
+constexpr QLatin1StringView kNeverInAddress(" \"<>\\^`{|}#");
+// Below the library's own limit on a reply's head, so an endless head is reported as
+// too large rather than as a broken connection.
+constexpr qint64 kMaximumHeadBytes = 256 * 1024;
+
+void initialiseOnce()
+{
+    static std::once_flag once;
+    std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
+}
+
+struct Reception
+{
+    QByteArray body;
+    qint64 received = 0;    // head and body together
+    qint64 headReceived = 0;
+    qint64 limit = 0;
+    qint64 exceededLimit = 0;
+
+    // False once the reply has grown past a cap: the transfer stops there.
+    bool take(qint64 bytes, bool head)
+    {
+        received += bytes;
+        headReceived += head ? bytes : 0;
+        if (received > limit)
+            exceededLimit = limit;
+        else if (headReceived > qMin(limit, kMaximumHeadBytes))
+            exceededLimit = qMin(limit, kMaximumHeadBytes);
+        return exceededLimit == 0;
+    }
+};
+
+size_t onBody(char *data, size_t size, size_t count, void *user)
+{
+    auto *reception = static_cast<Reception *>(user);
+    const qint64 bytes = qint64(size * count);
+    if (!reception->take(bytes, false))
+        return 0;
+    reception->body.append(data, bytes);
+    return size * count;
+}
+
+size_t onHeader(char *, size_t size, size_t count, void *user)
+{
+    auto *reception = static_cast<Reception *>(user);
+    return reception->take(qint64(size * count), true) ? size * count : 0;
+}
+
+// Adds the host's certificate authorities to the system's for this connection.
+CURLcode onTlsContext(CURL *, void *context, void *user)
+{
+    const auto *authorities = static_cast<const QList<QByteArray> *>(user);
+    X509_STORE *store = SSL_CTX_get_cert_store(static_cast<SSL_CTX *>(context));
+    for (const QByteArray &der : *authorities) {
+        const auto *bytes = reinterpret_cast<const unsigned char *>(der.constData());
+        X509 *certificate = d2i_X509(nullptr, &bytes, long(der.size()));
+        if (!certificate)
+            continue;
+        X509_STORE_add_cert(store, certificate);
+        X509_free(certificate);
+    }
+    return CURLE_OK;
+}
+
+struct HandleDeleter
+{
+    void operator()(CURL *handle) const { curl_easy_cleanup(handle); }
+};
+struct ListDeleter
+{
+    void operator()(curl_slist *list) const { curl_slist_free_all(list); }
+};
+
+bool isHexDigit(QChar c)
+{
+    return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'f') || (c >= u'A' && c <= u'F');
+}
+} // namespace
+
+bool HttpTransport::isSendableAddress(const QString &address)
+{
+    if (address.isEmpty())
+        return false;
+    for (qsizetype i = 0; i < address.size(); ++i) {
+        const QChar c = address.at(i);
+        if (c.unicode() <= 0x20 || c.unicode() >= 0x7f || kNeverInAddress.contains(c))
+            return false;
+        if (c == u'%' && (i + 2 >= address.size() || !isHexDigit(address.at(i + 1)) || !isHexDigit(address.at(i + 2))))
+            return false;
+    }
+    return true;
+}
+
+TransferResult HttpTransport::perform(const TransferRequest &request)
+{
+    initialiseOnce();
+    TransferResult result;
+    std::unique_ptr<CURL, HandleDeleter> handle(curl_easy_init());
+    if (!handle)
+        return result;
+    CURL *curl = handle.get();
+    Reception reception;
+    reception.limit = request.maximumReplySize;
+
+    const QByteArray address = request.address.toLatin1();
+    curl_easy_setopt(curl, CURLOPT_URL, address.constData());
+    curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http,https");
+    // The address goes out as written: no dot-segment folding, no proxy from the
+    // environment, no redirects followed.
+    curl_easy_setopt(curl, CURLOPT_PATH_AS_IS, 1L);
+    curl_easy_setopt(curl, CURLOPT_PROXY, "");
+    curl_easy_setopt(curl, CURLOPT_FOLLOWLOCATION, 0L);
+    // A reused connection that turns out dead makes the library send the request again
+    // on a fresh one; with a fresh connection every time, one call is one request.
+    curl_easy_setopt(curl, CURLOPT_FRESH_CONNECT, 1L);
+    curl_easy_setopt(curl, CURLOPT_FORBID_REUSE, 1L);
+    curl_easy_setopt(curl, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
+    curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
+    curl_easy_setopt(curl, CURLOPT_TIMEOUT_MS, long(request.timeout.count()));
+    curl_easy_setopt(curl, CURLOPT_MAXFILESIZE_LARGE, curl_off_t(request.maximumReplySize));
+    curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &onBody);
+    curl_easy_setopt(curl, CURLOPT_WRITEDATA, &reception);
+    curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &onHeader);
+    curl_easy_setopt(curl, CURLOPT_HEADERDATA, &reception);
+    curl_easy_setopt(curl, CURLOPT_USERAGENT, request.userAgent.constData());
+    if (request.extraAuthorities && !request.extraAuthorities->isEmpty()) {
+        curl_easy_setopt(curl, CURLOPT_SSL_CTX_FUNCTION, &onTlsContext);
+        curl_easy_setopt(curl, CURLOPT_SSL_CTX_DATA, request.extraAuthorities.get());
+    }
+
+    // Only the headers that belong to the request: no Accept, no Expect handshake.
+    curl_slist *headers = curl_slist_append(nullptr, "Accept:");
+    headers = curl_slist_append(headers, "Expect:");
+    const QByteArray contentType = "Content-Type: " + request.contentType;
+    if (!request.contentType.isEmpty())
+        headers = curl_slist_append(headers, contentType.constData());
+    std::unique_ptr<curl_slist, ListDeleter> headerList(headers);
+    curl_easy_setopt(curl, CURLOPT_HTTPHEADER, headers);
+
+    if (request.method == "POST") {
+        curl_easy_setopt(curl, CURLOPT_POST, 1L);
+        curl_easy_setopt(curl, CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t(request.body.size()));
+        curl_easy_setopt(curl, CURLOPT_POSTFIELDS, request.body.constData());
+    } else {
+        curl_easy_setopt(curl, CURLOPT_HTTPGET, 1L);
+    }
+
+    const CURLcode code = curl_easy_perform(curl);
+    long status = 0;
+    curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &status);
+    if (code == CURLE_OK && status > 0) {
+        result.outcome = TransferResult::Outcome::Answered;
+        result.status = int(status);
+        result.body = std::move(reception.body);
+    } else if (code == CURLE_OPERATION_TIMEDOUT) {
+        result.outcome = TransferResult::Outcome::TimedOut;
+    } else if (reception.exceededLimit > 0 || code == CURLE_FILESIZE_EXCEEDED) {
+        result.outcome = TransferResult::Outcome::TooLarge;
+        result.exceededLimit = reception.exceededLimit > 0 ? reception.exceededLimit : request.maximumReplySize;
+    }
+    return result;
+}
+
+} // namespace quorva::detail

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QList>
+#include <QtCore/QString>
+
+#include <chrono>
+#include <memory>
+
+namespace quorva::detail {
+
+// One HTTP exchange as it goes on the wire: exactly one request on a fresh connection,
+// never re-sent, ended by the reply, a transport failure, the time-out or the size cap.
+struct TransferRequest
+{
+    const char *name = "";      // the request's name for diagnostics ("offers", ...)
+    QByteArray method;          // "GET" or "POST"
+    QString address;            // sent exactly as written; see isSendableAddress()
+    QByteArray userAgent;
+    QByteArray contentType;     // none when empty
+    QByteArray body;            // only sent with POST
+    std::chrono::milliseconds timeout{60000};
+    qint64 maximumReplySize = 4 * 1024 * 1024;
+    // Certificate authorities trusted on top of the system's, DER encoded.
+    std::shared_ptr<const QList<QByteArray>> extraAuthorities;
+};
+
+struct TransferResult
+{
+    enum class Outcome { Answered, Failed, TimedOut, TooLarge };
+    Outcome outcome = Outcome::Failed;
+    int status = 0;
+    QByteArray body;
+    qint64 exceededLimit = 0;   // with TooLarge: the cap the reply went past
+
+    bool answered() const { return outcome == Outcome::Answered; }
+};
+
+class QUORVAMEDIA_EXPORT HttpTransport
+{
+public:
+    // Blocks the calling (worker) thread until the exchange has ended.
+    static TransferResult perform(const TransferRequest &request);
+
+    // True when every character can stand in an address as written: printable ASCII,
+    // none of the characters an address never holds, and "%" only before two hex digits.
+    static bool isSendableAddress(const QString &address);
+};
+
+} // namespace quorva::detail

@@ -1,0 +1,29 @@
+#include "QVPictureNetwork.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QThread>
+#include <QtNetwork/QNetworkAccessManager>
+#include <QtNetwork/QNetworkRequest>
+#include <QtNetwork/QSslConfiguration>
+
+namespace {
+QSslConfiguration &pictureTrust()
+{
+    static QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+    return configuration;
+}
+} // namespace
+
+void QVPictureNetwork::addCaCertificates(const QList<QSslCertificate> &certificates)
+{
+    pictureTrust().addCaCertificates(certificates);
+}
+
+QNetworkReply *QVPictureNetwork::get(const QUrl &url)
+{
+    Q_ASSERT(QThread::currentThread() == QCoreApplication::instance()->thread());
+    static QNetworkAccessManager *network = new QNetworkAccessManager(QCoreApplication::instance());
+    QNetworkRequest request(url);
+    request.setSslConfiguration(pictureTrust());
+    return network->get(request);
+}

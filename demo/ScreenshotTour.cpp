@@ -5,9 +5,7 @@
 
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QEventLoop>
-#include <QtCore/QThread>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QImage>
 #include <QtQuick/QQuickWindow>
@@ -19,39 +17,40 @@
 namespace {
 constexpr QSize kPhone(390, 780);
 constexpr QSize kTablet(1024, 768);
+constexpr int kPatienceMs = 20000;
 
-void spin(int milliseconds)
+// Runs the event loop until the condition holds; false when it never did. The loop is
+// driven by hand, so deferred deletions are delivered here too.
+bool spinUntil(const std::function<bool()> &condition)
 {
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < milliseconds) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QThread::msleep(5);
-    }
-}
-
-bool spinUntil(const std::function<bool()> &condition, int milliseconds = 15000)
-{
-    QElapsedTimer timer;
-    timer.start();
+    QDeadlineTimer deadline(kPatienceMs);
     while (!condition()) {
-        if (timer.elapsed() > milliseconds)
+        if (deadline.hasExpired())
             return false;
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QThread::msleep(5);
     }
     return true;
+}
+
+// Every item below root in the visual tree (list cells are not QObject children of the wall).
+void collectItems(QQuickItem *root, QList<QQuickItem *> &items)
+{
+    for (QQuickItem *child : root->childItems()) {
+        items.append(child);
+        collectItems(child, items);
+    }
 }
 
 // Pictures of every cell that is on screen have arrived.
 bool picturesShown(QQuickItem *wall)
 {
-    const auto views = wall->findChildren<QVImageView *>();
+    QList<QQuickItem *> items;
+    collectItems(wall, items);
     int shown = 0;
-    for (QVImageView *view : views) {
-        if (!view->isVisible() || !view->parentItem() || !view->parentItem()->isVisible())
+    for (QQuickItem *item : items) {
+        auto *view = qobject_cast<QVImageView *>(item);
+        if (!view || !view->isVisible())
             continue;
         const QRectF inWall = view->mapRectToItem(wall, view->boundingRect());
         if (!QRectF(QPointF(), wall->size()).intersects(inWall))
@@ -96,7 +95,13 @@ int ScreenshotTour::run()
     api->setServiceBaseAddress(m_sandbox.baseAddress());
     api->addCaCertificates(m_sandbox.caCertificates());
     int failures = 0;
-    auto save = [&](Scene &scene, const QString &name) {
+    // A screen is saved only once it shows what it should; otherwise it counts as failed.
+    auto shoot = [&](Scene &scene, const QString &name, const std::function<bool()> &ready) {
+        if (!spinUntil(ready)) {
+            std::fprintf(stderr, "quorva-demo: %s never became ready\n", qPrintable(name));
+            ++failures;
+            return;
+        }
         const QString path = QDir(m_directory).filePath(name + QStringLiteral(".png"));
         if (scene.window->grabWindow().save(path))
             std::printf("%s\n", qPrintable(QDir(path).absolutePath()));
@@ -105,36 +110,40 @@ int ScreenshotTour::run()
         std::fflush(stdout);
     };
     auto loaded = [](Scene &scene) {
-        return spinUntil([&] { return scene.wall->offersList().size() > 0 && picturesShown(scene.wall); });
+        return [&scene] { return !scene.wall->offersList().isEmpty() && picturesShown(scene.wall); };
+    };
+    auto settled = [](Scene &scene) { return [&scene] { return !scene.wall->isOverlayAnimating(); }; };
+    auto opened = [](Scene &scene, const char *objectName) {
+        return [&scene, objectName] {
+            QObject *popup = scene.wall->findChild<QObject *>(QLatin1StringView(objectName));
+            return popup && popup->property("opened").toBool();
+        };
     };
 
     for (const auto idiom : {QVDevice::Idiom::Phone, QVDevice::Idiom::Tablet}) {
         const bool tablet = idiom == QVDevice::Idiom::Tablet;
         Scene scene = openWall(QStringLiteral("7"), idiom);
-        if (!loaded(scene))
-            ++failures;
-        spin(300);
-        save(scene, tablet ? QStringLiteral("tablet-wall") : QStringLiteral("phone-wall"));
+        shoot(scene, tablet ? QStringLiteral("tablet-wall") : QStringLiteral("phone-wall"), loaded(scene));
 
         scene.wall->onFilterPressed();
         if (tablet) {
-            spin(900);
-            save(scene, QStringLiteral("tablet-filter-popover"));
+            shoot(scene, QStringLiteral("tablet-filter-popover"), opened(scene, "filterPopover"));
         } else {
-            spin(70);
-            save(scene, QStringLiteral("phone-filters-opening"));
-            spin(1300);
-            save(scene, QStringLiteral("phone-filters"));
+            // Caught halfway down, with the blurred list showing through.
+            shoot(scene, QStringLiteral("phone-filters-opening"), [&scene] {
+                QQuickItem *panel = scene.wall->filterVC();
+                return panel && panel->y() > -0.45 * panel->height();
+            });
+            shoot(scene, QStringLiteral("phone-filters"), settled(scene));
         }
     }
 
     {
         Scene scene = openWall(QStringLiteral("8"), QVDevice::Idiom::Phone);
-        auto *label = scene.wall->findChild<QQuickItem *>(QStringLiteral("noOffersLabel"));
-        if (!spinUntil([&] { return label && label->isVisible(); }))
-            ++failures;
-        spin(300);
-        save(scene, QStringLiteral("phone-empty"));
+        shoot(scene, QStringLiteral("phone-empty"), [&scene] {
+            auto *label = scene.wall->findChild<QQuickItem *>(QStringLiteral("noOffersLabel"));
+            return label && label->isVisible();
+        });
     }
 
     {
@@ -143,10 +152,12 @@ int ScreenshotTour::run()
             api->setServiceBaseAddress(broken.baseAddress());
             api->addCaCertificates(broken.caCertificates());
             Scene scene = openWall(QStringLiteral("7"), QVDevice::Idiom::Phone);
-            if (!spinUntil([&] { return scene.wall->findChild<QObject *>(QStringLiteral("alert")) != nullptr; }))
-                ++failures;
-            spin(600);
-            save(scene, QStringLiteral("phone-no-connection"));
+            shoot(scene, QStringLiteral("phone-no-connection"), opened(scene, "alert"));
+            if (QObject *alert = scene.wall->findChild<QObject *>(QStringLiteral("alert")))
+                QMetaObject::invokeMethod(alert, "close");
+            shoot(scene, QStringLiteral("phone-try-again"), [&scene] {
+                return scene.wall->loadFailed() && !scene.wall->findChild<QObject *>(QStringLiteral("alert"));
+            });
         } else {
             ++failures;
         }

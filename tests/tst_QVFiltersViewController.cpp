@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "FakeOfferService.h"
 #include "WallHarness.h"
 
@@ -48,6 +49,7 @@ class tst_QVFiltersViewController : public QObject
 private slots:
     void initTestCase();
     void init();
+    void cleanup() { finishPendingRequests(); }
 
     void phonePanelDropsInUnderTheHeader();
     void selectionRulesAndSavingReloadsFromZero();
@@ -88,9 +90,9 @@ QVFiltersViewController *tst_QVFiltersViewController::openPanel(WallHarness &har
     QVFiltersViewController *panel = harness.wall->filterVC();
     if (!panel)
         return nullptr;
-    const bool settled = QTest::qWaitFor([&] { return !harness.wall->isOverlayAnimating(); })
+    const bool settled = QTest::qWaitFor([&] { return !harness.wall->isOverlayAnimating(); }, kPatienceMs)
         && (QVDevice::isTablet() || panel->y() == 0.0)
-        && QTest::qWaitFor([&] { return rowsOf(panel).size() >= 4; });
+        && QTest::qWaitFor([&] { return rowsOf(panel).size() >= 4; }, kPatienceMs);
     return settled ? panel : nullptr;
 }
 
@@ -118,7 +120,7 @@ void tst_QVFiltersViewController::phonePanelDropsInUnderTheHeader()
     QVERIFY(QTest::qWaitFor([&] {
         lowest = qMax(lowest, panel->y());
         return !harness.wall->isOverlayAnimating();
-    }, 20000));
+    }, kPatienceMs));
     QVERIFY2(lowest > 1.0, qPrintable(QString::number(lowest)));
     QCOMPARE(panel->y(), 0.0);
     QCOMPARE(panel->size(), harness.wall->size());

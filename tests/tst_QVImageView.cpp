@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "ScriptedServer.h"
 
 #include <QuorvaMedia/QuorvaMedia.h>

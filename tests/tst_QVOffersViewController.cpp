@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "FakeOfferService.h"
 #include "LogCapture.h"
 #include "WallHarness.h"
@@ -25,6 +26,7 @@ class tst_QVOffersViewController : public QObject
 private slots:
     void initTestCase();
     void init();
+    void cleanup() { finishPendingRequests(); }
 
     void loadsWhenFirstShownWithTargetingApplied();
     void pagesAsTheListScrolls();

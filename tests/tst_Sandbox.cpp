@@ -1,3 +1,4 @@
+#include "Patience.h"
 #include "CallbackProbe.h"
 #include "LogCapture.h"
 #include "SandboxProcess.h"
@@ -113,7 +114,7 @@ QList<QVOffer> tst_Sandbox::fetchPage(quint64 offset, const QString &sort, const
     QuorvaRestAPI::sharedInstance()->fetchOffers(offset, sort, category, featured,
         [&](const QList<QVOffer> &offers, bool hasMore) { ++probe.successes; page = offers; *more = hasMore; },
         probe.failure());
-    if (!QTest::qWaitFor([&] { return probe.finished(); }, 10000) || probe.failures)
+    if (!QTest::qWaitFor([&] { return probe.finished(); }, kPatienceMs) || probe.failures)
         *more = false;
     return page;
 }
@@ -337,7 +338,7 @@ void tst_Sandbox::injectedFaults()
     QuorvaRestAPI::sharedInstance()->fetchOffers(0, {}, {}, false,
         [&](const QList<QVOffer> &offers, bool flag) { ++probe.successes; page = offers; hasMore = flag; },
         probe.failure());
-    QTRY_VERIFY_WITH_TIMEOUT(probe.finished(), 10000);
+    QTRY_VERIFY(probe.finished());
     QCOMPARE(probe.failures, fails ? 1 : 0);
     if (!fails) {
         QVERIFY(page.isEmpty());
@@ -440,7 +441,7 @@ void tst_Sandbox::stalledPeersAreClosedAndServingGoesOn()
     // The server closes every stalled peer by itself...
     QTRY_VERIFY_WITH_TIMEOUT(std::all_of(peers.begin(), peers.end(), [](const auto &socket) {
         return socket->state() == QAbstractSocket::UnconnectedState;
-    }), 20000);
+    }), kPatienceMs);
     // ...and keeps serving.
     QVERIFY(sandbox.processAlive());
     QCOMPARE(raw("GET", QStringLiteral("/corvel/categories.json?visibility=1"), {}, &sandbox).status, 200);

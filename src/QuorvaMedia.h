@@ -1,7 +1,7 @@
 #pragma once
 
-// Everything a host application needs: the service client, its records, device facts
-// and the offer wall.
+// Everything a host application needs: the service client, its records, device facts,
+// the offer wall and its support centre.
 #include <QuorvaMedia/quorvamedia_global.h>
 #include <QuorvaMedia/QuorvaMediaVersion.h>
 #include <QuorvaMedia/QVAdvertisingInfo.h>
@@ -18,4 +18,20 @@
 #include <QuorvaMedia/QVOfferUICollectionViewCell.h>
 #include <QuorvaMedia/QVFilterCells.h>
 #include <QuorvaMedia/QVFiltersViewController.h>
+#include <QuorvaMedia/QVFormFieldView.h>
+#include <QuorvaMedia/QVEnterInformationView.h>
+#include <QuorvaMedia/QVEnterCommentView.h>
+#include <QuorvaMedia/QVEnterOfferTitleView.h>
+#include <QuorvaMedia/QVSupportSendButtonView.h>
+#include <QuorvaMedia/QVUnableToAssist.h>
+#include <QuorvaMedia/QVChooseSubjectView.h>
+#include <QuorvaMedia/QVOfferTimeCompletedView.h>
+#include <QuorvaMedia/QVOfferDateCompletedView.h>
+#include <QuorvaMedia/QVEmailViewController.h>
+#include <QuorvaMedia/QVQuestionCollectionViewCell.h>
+#include <QuorvaMedia/QVQACollectionViewCell.h>
+#include <QuorvaMedia/QVFAQViewController.h>
+#include <QuorvaMedia/QVTransactionCollectionViewCell.h>
+#include <QuorvaMedia/QVHistoryViewController.h>
+#include <QuorvaMedia/QVSupportViewController.h>
 #include <QuorvaMedia/QVOffersViewController.h>

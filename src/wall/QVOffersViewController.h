@@ -6,6 +6,7 @@
 #include "QVOfferUICollectionViewCell.h"
 #include "QVOffer.h"
 #include "QVSort.h"
+#include "QVSupportViewController.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QAbstractItemModel>
@@ -17,6 +18,7 @@ class QAbstractAnimation;
 class QPropertyAnimation;
 class QVOffersListModel;
 class QVPayoutFormatter;
+
 
 // The host's listener: told once, when the user presses close.
 class QUORVAMEDIA_EXPORT QVOffersViewControllerDelegate
@@ -51,10 +53,12 @@ class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
     Q_PROPERTY(QQuickItem *collectionView MEMBER m_collectionView NOTIFY outletsChanged FINAL)
     Q_PROPERTY(QQuickItem *noOffersLabel MEMBER m_noOffersLabel NOTIFY outletsChanged FINAL)
     Q_PROPERTY(QObject *filterPopover MEMBER m_filterPopover NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QObject *supportPopover MEMBER m_supportPopover NOTIFY outletsChanged FINAL)
     Q_PROPERTY(QAbstractItemModel *offersModel READ offersModel CONSTANT FINAL)
     Q_PROPERTY(QSizeF cellSize READ cellSize NOTIFY cellSizeChanged FINAL)
     Q_PROPERTY(qreal sectionInsetTop READ sectionInsetTop CONSTANT FINAL)
     Q_PROPERTY(qreal headerHeight READ headerHeight CONSTANT FINAL)
+    Q_PROPERTY(qreal supportTop READ supportTop CONSTANT FINAL)
     Q_PROPERTY(qreal popoverWidth READ popoverWidth CONSTANT FINAL)
     Q_PROPERTY(bool loadingOffers READ loadingOffers NOTIFY loadingOffersChanged FINAL)
     Q_PROPERTY(bool filtersViewOpen READ isFiltersViewOpen NOTIFY overlaysChanged FINAL)
@@ -97,7 +101,9 @@ public:
     static QSizeF sizeForItem(qreal viewWidth);
     QSizeF cellSize() const { return sizeForItem(width()); }
     static qreal sectionInsetTop() { return 5; }
-    static qreal headerHeight() { return 64; }
+    static qreal headerHeight() { return 80; }
+    // The support centre's top edge on a phone, flush with the header's bottom.
+    static qreal supportTop() { return 80; }
     static qreal popoverWidth() { return 360; }
     static qreal popoverHeightRatio() { return 0.65; }
 
@@ -112,6 +118,7 @@ public:
     // True while a phone overlay slides in or out.
     bool isOverlayAnimating() const { return m_runningSlides > 0; }
     QVFiltersViewController *filterVC() const { return m_filterVC; }
+    QVSupportViewController *supportVC() const { return m_supportVC; }
     std::optional<QVSort> sortParam() const { return m_sortParam; }
     std::optional<QVCategory> categoryParam() const { return m_categoryParam; }
 
@@ -121,8 +128,10 @@ public:
     Q_INVOKABLE void onFilterPressed();
     Q_INVOKABLE void onSupportPressed();
     Q_INVOKABLE void headerTapped();
-    Q_INVOKABLE void popoverDidPresent();
-    Q_INVOKABLE void popoverDidDismiss();
+    Q_INVOKABLE void popoverDidPresent(QObject *popover);
+    Q_INVOKABLE void popoverDidDismiss(QObject *popover);
+    // The support popover's own close button: nothing else closes it.
+    Q_INVOKABLE void closeSupportPopover();
     void closeFiltersView();
     void closeSupportView();
     void loadMoreOffers();
@@ -158,12 +167,16 @@ private:
     void setHeaderText(const QString &text);
     QString headerText() const;
     void showFailureAlert();
-    void presentFilterPopover();
-    void dismissFilterPopover();
-    void slideFilterPanel(qreal toY, bool open);
+    void presentInPopover(QObject *popover, QQuickItem *button, QQuickItem *panel);
+    void dismissPopover(QObject *popover);
+    // The filter panel opens with its own, bouncier spring; every other slide is the same.
+    enum class Slide { OpenFilters, Other };
+    void slide(QQuickItem *panel, const char *property, qreal to, Slide kind, bool detachWhenDone);
     void trackSlide(QAbstractAnimation *animation);
     void layoutFilterPanel();
+    void layoutSupportPanel();
     qreal listHeight() const;
+    qreal listWidth() const;
 
     QVOffersViewControllerDelegate *m_delegate = nullptr;
     QVOffersListModel *m_offers = nullptr;
@@ -179,6 +192,8 @@ private:
     QPointer<QVFiltersViewController> m_filterVC;
     QPointer<QQuickItem> m_blurView;
     QPointer<QPropertyAnimation> m_filterAnimation;
+    QPointer<QVSupportViewController> m_supportVC;
+    QPointer<QPropertyAnimation> m_supportAnimation;
     QString m_lastHeaderTitle;
     bool m_isFiltersViewOpen = false;
     bool m_isSupportViewOpen = false;
@@ -193,4 +208,5 @@ private:
     QQuickItem *m_collectionView = nullptr;
     QQuickItem *m_noOffersLabel = nullptr;
     QObject *m_filterPopover = nullptr;
+    QObject *m_supportPopover = nullptr;
 };

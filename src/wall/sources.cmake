@@ -16,9 +16,10 @@ set(QUORVA_UI_SOURCES
     ui/QVImageView.cpp
     ui/QVComponentFactory.h ui/QVComponentFactory.cpp
     ui/QVAlertPresenter.h ui/QVAlertPresenter.cpp
-    wall/QVPayoutFormatter.h wall/QVPayoutFormatter.cpp
+    ui/QVPayoutFormatter.h ui/QVPayoutFormatter.cpp
     wall/QVOffersListModel.h wall/QVOffersListModel.cpp
     wall/QVOffersViewController.cpp
+    wall/QVOffersViewControllerOverlays.cpp
     wall/QVOfferUICollectionViewCell.cpp
     wall/QVFiltersViewController.cpp
     wall/QVFilterListModel.h wall/QVFilterListModel.cpp
@@ -34,6 +35,7 @@ set(QUORVA_QML_FILES
     resources/qml/QVAlert.qml
     resources/qml/QVBlurView.qml
     resources/qml/HeaderButtonBackground.qml
+    resources/qml/QVPopover.qml
 )
 set(QUORVA_RESOURCE_FILES
     resources/icons/close.svg
@@ -41,13 +43,3 @@ set(QUORVA_RESOURCE_FILES
     resources/icons/support.svg
     resources/icons/checkmark.svg
 )
-
-# Interface files and icons sit flat in the module, as the types are named.
-foreach(file IN LISTS QUORVA_QML_FILES)
-    get_filename_component(name ${file} NAME)
-    set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${name})
-endforeach()
-foreach(file IN LISTS QUORVA_RESOURCE_FILES)
-    get_filename_component(name ${file} NAME)
-    set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS icons/${name})
-endforeach()

@@ -71,12 +71,27 @@ FakeOfferService::FakeOfferService()
         if (endsWith("/details.json")) {
             if (m_profileDropped)
                 return dropped();
-            return HttpResponse::json(200, R"({"profile":{"settings":{"currency":{"visible":true,"name":"Gems"}}}})");
+            HttpResponse profile = HttpResponse::json(200, R"({"profile":{"settings":{"currency":{"visible":true,"name":"Gems"}}}})");
+            profile.releaseWhen = [this] { return !m_profileHeld; };
+            return profile;
         }
         if (endsWith("/categories.json")) {
             if (m_categoriesDropped)
                 return dropped();
             return HttpResponse::json(200, R"([{"id":3,"name":"Games"},{"id":7,"name":"Travel"}])");
+        }
+        if (endsWith("/transactions.json")) {
+            if (m_historyDropped)
+                return dropped();
+            std::lock_guard lock(m_historyMutex);
+            return HttpResponse::json(m_historyStatus, m_historyBody);
+        }
+        if (endsWith("/tickets.json")) {
+            if (m_ticketsDropped)
+                return dropped();
+            HttpResponse created = HttpResponse::json(201, "{\"ticket_id\":" + std::to_string(m_nextTicketId++) + "}");
+            created.releaseWhen = [this] { return !m_ticketsHeld; };
+            return created;
         }
         if (path.starts_with("/img/")) {
             HttpResponse picture;
@@ -104,4 +119,21 @@ int FakeOfferService::requestsTo(const std::string &pathSuffix) const
     for (const HttpRequest &request : m_server.requests())
         count += request.path.ends_with(pathSuffix) ? 1 : 0;
     return count;
+}
+
+void FakeOfferService::setHistory(int status, const QByteArray &body)
+{
+    std::lock_guard lock(m_historyMutex);
+    m_historyStatus = status;
+    m_historyBody = body.toStdString();
+}
+
+QList<QJsonObject> FakeOfferService::tickets() const
+{
+    QList<QJsonObject> bodies;
+    for (const HttpRequest &request : m_server.requests()) {
+        if (request.path.ends_with("/tickets.json"))
+            bodies.append(QJsonDocument::fromJson(QByteArray::fromStdString(request.body)).object());
+    }
+    return bodies;
 }

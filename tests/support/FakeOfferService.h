@@ -2,6 +2,8 @@
 
 #include "ScriptedServer.h"
 
+#include <QtCore/QByteArray>
+#include <QtCore/QJsonObject>
 #include <QtCore/QMap>
 #include <QtCore/QString>
 
@@ -26,8 +28,17 @@ public:
     // Offers requests get no answer at all.
     void setOffersStalled(bool stalled) { m_offersStalled = stalled; }
     void setProfileDropped(bool dropped) { m_profileDropped = dropped; }
+    void setProfileHeld(bool held) { m_profileHeld = held; }
     void setCategoriesDropped(bool dropped) { m_categoriesDropped = dropped; }
     void setPayout(int payout) { m_payout = payout; }
+    // The history's answer: a status and a JSON body; a dropped connection when dropped.
+    void setHistory(int status, const QByteArray &body);
+    void setHistoryDropped(bool dropped) { m_historyDropped = dropped; }
+    // Ticket requests: answered 201 with a new id unless dropped; held while held.
+    void setTicketsDropped(bool dropped) { m_ticketsDropped = dropped; }
+    void setTicketsHeld(bool held) { m_ticketsHeld = held; }
+    // The JSON bodies of every ticket received so far, oldest first.
+    QList<QJsonObject> tickets() const;
 
     // Query pairs of every offers request so far, oldest first.
     QList<QMap<QString, QString>> offersQueries() const;
@@ -42,4 +53,12 @@ private:
     std::atomic<bool> m_profileDropped{false};
     std::atomic<bool> m_categoriesDropped{false};
     std::atomic<int> m_payout{1500};
+    std::atomic<bool> m_historyDropped{false};
+    std::atomic<bool> m_profileHeld{false};
+    std::atomic<bool> m_ticketsDropped{false};
+    std::atomic<bool> m_ticketsHeld{false};
+    std::atomic<int> m_nextTicketId{1};
+    mutable std::mutex m_historyMutex;
+    int m_historyStatus = 200;
+    std::string m_historyBody = R"({"transactions":[]})";
 };

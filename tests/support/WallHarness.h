@@ -1,11 +1,14 @@
 #pragma once
 
+#include "Patience.h"
+
 #include <QuorvaMedia/QuorvaMedia.h>
 
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 #include <QtTest/QtTest>
 
+#include <atomic>
 #include <memory>
 
 // A host window with one wall in it, created through the public factory.
@@ -24,14 +27,32 @@ public:
         delete wall;
     }
 
-    // Putting the wall into the shown window is what loads it.
+    // Putting the wall into the shown window is what loads it. Returns once it is on
+    // screen and laid out, so a click lands where the user would see the button.
     bool show()
     {
         wall->setParentItem(window->contentItem());
         wall->setSize(window->size());
         window->show();
-        return QTest::qWaitForWindowExposed(window.get());
+        return QTest::qWaitForWindowExposed(window.get()) && nextFrame();
     }
+
+    // Waits until a frame that began after this call is on screen, by which time new items
+    // have been laid out. Frames are swapped on the render thread, so they are counted
+    // there; the first one counted may end a frame that was already under way.
+    bool nextFrame()
+    {
+        auto swaps = std::make_shared<std::atomic<int>>(0);
+        const auto counting = QObject::connect(window.get(), &QQuickWindow::frameSwapped, window.get(),
+                                               [swaps] { ++*swaps; }, Qt::DirectConnection);
+        const bool drawn = QTest::qWaitFor([&] {
+            window->update();
+            return *swaps >= 2;
+        }, kPatienceMs);
+        QObject::disconnect(counting);
+        return drawn;
+    }
+
 
     void resize(QSize size)
     {

@@ -57,6 +57,9 @@ Dialog {
             anchors.fill: parent
             anchors.topMargin: 1
             text: alert.actionTitle
+            Accessible.name: alert.actionTitle
+            Keys.onReturnPressed: clicked()
+            Keys.onEnterPressed: clicked()
             flat: true
             font.pixelSize: 17
             font.bold: true

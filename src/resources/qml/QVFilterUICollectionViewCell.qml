@@ -11,9 +11,21 @@ QVFilterUICollectionViewCellBase {
     name: label
     checkmarkImage: check
 
+    activeFocusOnTab: true
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: title
+    Accessible.checkable: true
+    Accessible.checked: selected
+    Accessible.onPressAction: cell.pressed()
+    Keys.onReturnPressed: cell.pressed()
+    Keys.onEnterPressed: cell.pressed()
+    Keys.onSpacePressed: cell.pressed()
+
     Rectangle {
         anchors.fill: parent
         color: tap.pressed ? "#14000000" : "transparent"
+        border.width: cell.activeFocus ? 2 : 0
+        border.color: "#3F51D8"
     }
     Label {
         id: label

@@ -56,6 +56,9 @@ QVFiltersViewControllerBase {
         anchors.margins: 14
         height: 48
         text: "Apply Filters"
+        Accessible.name: "Apply the filters"
+        Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
         onClicked: panel.onSavedPressed()
         background: Rectangle {
             radius: panel.cornerRadius

@@ -88,6 +88,9 @@ QVOfferUICollectionViewCellBase {
             implicitWidth: Math.max(76, contentItem.implicitWidth + 24)
             implicitHeight: 38
             text: cell.payoutTitle
+            Accessible.name: "Earn " + cell.payoutTitle + ": " + cell.offerName
+            Keys.onReturnPressed: clicked()
+            Keys.onEnterPressed: clicked()
             onClicked: cell.onCreditsBtnPressed()
             background: Rectangle {
                 radius: cell.cornerRadius

@@ -13,6 +13,7 @@ QVOffersViewControllerBase {
     collectionView: list
     noOffersLabel: emptyLabel
     filterPopover: popover
+    supportPopover: supportPopover
 
     clip: true
 
@@ -174,6 +175,7 @@ QVOffersViewControllerBase {
             icon.width: 24
             icon.height: 24
             background: HeaderButtonBackground { down: closeButton.down }
+            Accessible.name: "Close the offers"
             onClicked: root.onClosePressed()
         }
 
@@ -200,6 +202,7 @@ QVOffersViewControllerBase {
                 icon.width: 24
                 icon.height: 24
                 background: HeaderButtonBackground { down: supportButton.down }
+                Accessible.name: "Help and support"
                 onClicked: root.onSupportPressed()
             }
             ToolButton {
@@ -210,51 +213,69 @@ QVOffersViewControllerBase {
                 icon.width: 24
                 icon.height: 24
                 background: HeaderButtonBackground { down: filterButton.down }
+                Accessible.name: "Sort and filter offers"
                 onClicked: root.onFilterPressed()
             }
         }
     }
 
-    Popup {
+    QVPopover {
         id: popover
         objectName: "filterPopover"
+        onOpened: root.popoverDidPresent(popover)
+        onClosed: root.popoverDidDismiss(popover)
+    }
 
-        property real arrowX: width / 2
-        readonly property real arrowHeight: 10
-
-        modal: true
-        dim: false
-        padding: 0
-        topPadding: arrowHeight
+    // The support centre on a tablet. A tap outside does not close it, so it carries
+    // its own close button.
+    QVPopover {
+        id: supportPopover
+        objectName: "supportPopover"
+        host: supportHost
+        onOpened: root.popoverDidPresent(supportPopover)
+        onClosed: root.popoverDidDismiss(supportPopover)
         contentItem: Item {
-            objectName: "popoverContent"
             clip: true
+            Label {
+                anchors.verticalCenter: supportClose.verticalCenter
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: "Corvel Support"
+                font.pixelSize: 16
+                font.bold: true
+                color: "#15151E"
+            }
+            ToolButton {
+                id: supportClose
+                objectName: "supportCloseBtn"
+                anchors.right: parent.right
+                anchors.top: parent.top
+                anchors.margins: 4
+                icon.source: "icons/close.svg"
+                icon.color: "#5F5F6E"
+                icon.width: 20
+                icon.height: 20
+                background: Rectangle {
+                    implicitWidth: 36
+                    implicitHeight: 36
+                    radius: width / 2
+                    color: supportClose.down ? "#E6E6EE" : "transparent"
+                    border.width: supportClose.visualFocus ? 2 : 0
+                    border.color: "#3F51D8"
+                }
+                Accessible.name: "Close support"
+                Keys.onReturnPressed: clicked()
+                Keys.onEnterPressed: clicked()
+                onClicked: root.closeSupportPopover()
+            }
+            Item {
+                id: supportHost
+                objectName: "supportPopoverContent"
+                anchors.top: supportClose.bottom
+                anchors.left: parent.left
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                clip: true
+            }
         }
-        background: Item {
-            Rectangle {
-                anchors.fill: card
-                anchors.margins: -1
-                radius: card.radius + 1
-                color: "#26000000"
-            }
-            Rectangle {
-                width: 20
-                height: 20
-                rotation: 45
-                x: popover.arrowX - width / 2
-                y: popover.arrowHeight - height / 2 + 1
-                color: "#FFFFFF"
-                border.color: "#26000000"
-            }
-            Rectangle {
-                id: card
-                anchors.fill: parent
-                anchors.topMargin: popover.arrowHeight
-                radius: 14
-                color: "#FFFFFF"
-            }
-        }
-        onOpened: root.popoverDidPresent()
-        onClosed: root.popoverDidDismiss()
     }
 }

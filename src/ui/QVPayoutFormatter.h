@@ -5,9 +5,10 @@
 #include <QtCore/QLocale>
 #include <QtCore/QString>
 
-// The payout button's text: "+" and the amount with "," grouping whatever the
-// locale's own grouping, while the decimal separator stays the locale's. Up to three
-// fraction digits, trailing zeros dropped. Text that is not a number reads as 0.
+// A payout as the wall and the history show it: "+" and the amount with "," grouping
+// whatever the locale's own grouping, while the decimal separator stays the locale's.
+// Up to three fraction digits, trailing zeros dropped. Text that is not a number reads
+// as 0, and a negative amount keeps its sign behind the "+".
 class QUORVAMEDIA_EXPORT QVPayoutFormatter
 {
 public:

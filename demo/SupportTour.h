@@ -1,0 +1,8 @@
+#pragma once
+
+class SandboxProcess;
+namespace tour { class Camera; }
+
+// Walks through the support centre on a phone and a tablet, photographing each screen,
+// and files one ticket through the form the way a user types it.
+void runSupportTour(tour::Camera &camera, SandboxProcess &sandbox);

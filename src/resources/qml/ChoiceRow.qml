@@ -1,0 +1,71 @@
+import QtQuick
+import QtQuick.Controls.Basic
+
+// A row of a checkmark chooser: its text and the checkmark that marks the choice. The
+// chooser alone shows and hides the checkmark.
+AbstractButton {
+    id: row
+
+    property alias checkmark: check
+    property string checkmarkName
+    property bool last: false
+
+    implicitHeight: 52
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.RadioButton
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: check.visible
+    Keys.onReturnPressed: clicked()
+    Keys.onEnterPressed: clicked()
+
+    background: Rectangle {
+        color: row.down ? "#F0F0F5" : "transparent"
+        Rectangle {
+            anchors.fill: parent
+            anchors.margins: 2
+            radius: 8
+            color: "transparent"
+            border.width: 2
+            border.color: "#3F51D8"
+            visible: row.visualFocus
+        }
+        Rectangle {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            anchors.leftMargin: 16
+            height: 1
+            color: "#ECECF2"
+            visible: !row.last
+        }
+    }
+    contentItem: Item {
+        Text {
+            anchors.left: parent.left
+            anchors.right: check.left
+            anchors.verticalCenter: parent.verticalCenter
+            anchors.leftMargin: 16
+            anchors.rightMargin: 8
+            text: row.text
+            font.pixelSize: 15
+            font.bold: check.visible
+            color: "#15151E"
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+        }
+        Image {
+            id: check
+            objectName: row.checkmarkName
+            anchors.right: parent.right
+            anchors.rightMargin: 16
+            anchors.verticalCenter: parent.verticalCenter
+            width: 22
+            height: 22
+            source: "icons/checkmark.svg"
+            sourceSize: Qt.size(44, 44)
+            visible: false
+        }
+    }
+}

@@ -1,0 +1,66 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+QVChooseSubjectViewBase {
+    id: view
+
+    notCreditBtn: notCredited
+    reportBtn: report
+    otherBtn: other
+    notCreditCheckmark: notCredited.checkmark
+    reportCheckmark: report.checkmark
+    otherCheckmark: other.checkmark
+
+    height: 212
+
+    FormCard {
+        anchors.fill: parent
+        anchors.margins: 12
+        anchors.topMargin: 6
+        anchors.bottomMargin: 6
+
+        Text {
+            id: title
+            x: 16
+            y: 14
+            text: "What can we help you with?"
+            font.pixelSize: 13
+            font.bold: true
+            font.capitalization: Font.AllUppercase
+            font.letterSpacing: 0.6
+            color: "#4B4B9A"
+        }
+        Column {
+            anchors.top: title.bottom
+            anchors.topMargin: 6
+            anchors.left: parent.left
+            anchors.right: parent.right
+            ChoiceRow {
+                id: notCredited
+                objectName: "notCreditBtn"
+                checkmarkName: "notCreditCheckmark"
+                width: parent.width
+                text: "I completed an offer but wasn't credited"
+                onClicked: view.onSelectionChange(notCredited)
+            }
+            ChoiceRow {
+                id: report
+                objectName: "reportBtn"
+                checkmarkName: "reportCheckmark"
+                width: parent.width
+                text: "Report an offer"
+                onClicked: view.onSelectionChange(report)
+            }
+            ChoiceRow {
+                id: other
+                objectName: "otherBtn"
+                checkmarkName: "otherCheckmark"
+                width: parent.width
+                text: "Something else"
+                last: true
+                onClicked: view.onSelectionChange(other)
+            }
+        }
+    }
+}

@@ -1,0 +1,132 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+QVEmailViewControllerBase {
+    id: form
+
+    scrollView: scroll
+    datePickerView: datePanel
+    uiDatePicker: picker
+    dateDoneBtn: done
+
+    Flickable {
+        id: scroll
+        objectName: "scrollView"
+        anchors.fill: parent
+        topMargin: form.topInset
+        bottomMargin: form.keyboardInset
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        onContentYChanged: form.scrollViewDidScroll()
+        ScrollIndicator.vertical: ScrollIndicator { bottomPadding: form.keyboardInset }
+    }
+
+    // Slides up from the bottom of the form when the date button is pressed.
+    Rectangle {
+        id: datePanel
+        objectName: "datePickerView"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.bottom: parent.bottom
+        height: 250
+        opacity: 0
+        visible: opacity > 0
+        color: "#FFFFFF"
+
+        Rectangle {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            height: 1
+            color: "#DCDCE2"
+        }
+        Text {
+            anchors.left: parent.left
+            anchors.leftMargin: 16
+            anchors.verticalCenter: done.verticalCenter
+            text: "When did you complete it?"
+            font.pixelSize: 15
+            font.bold: true
+            color: "#15151E"
+        }
+        Button {
+            id: done
+            objectName: "dateDoneBtn"
+            anchors.right: parent.right
+            anchors.top: parent.top
+            anchors.rightMargin: 8
+            anchors.topMargin: 6
+            flat: true
+            text: "Done"
+            Accessible.name: "Done choosing the date"
+            Keys.onReturnPressed: clicked()
+            Keys.onEnterPressed: clicked()
+            onClicked: form.onDateDonePressed()
+            contentItem: Text {
+                text: done.text
+                font.pixelSize: 16
+                font.bold: true
+                color: "#3F51D8"
+                horizontalAlignment: Text.AlignHCenter
+                verticalAlignment: Text.AlignVCenter
+            }
+        }
+
+        QVDatePickerBase {
+            id: picker
+            objectName: "uiDatePicker"
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.top: done.bottom
+            anchors.bottom: parent.bottom
+            anchors.margins: 8
+
+            Rectangle {
+                anchors.verticalCenter: parent.verticalCenter
+                width: parent.width
+                height: 36
+                radius: 8
+                color: "#F0F0F5"
+            }
+            Row {
+                anchors.fill: parent
+                Tumbler {
+                    width: parent.width * 0.42
+                    height: parent.height
+                    model: picker.monthNames
+                    visibleItemCount: 5
+                    currentIndex: picker.monthIndex
+                    onCurrentIndexChanged: picker.pickMonth(currentIndex)
+                    Accessible.name: "Month"
+                }
+                Tumbler {
+                    width: parent.width * 0.2
+                    height: parent.height
+                    model: 31
+                    visibleItemCount: 5
+                    currentIndex: picker.dayIndex
+                    onCurrentIndexChanged: picker.pickDay(currentIndex)
+                    delegate: Text {
+                        required property int index
+                        text: index + 1
+                        font.pixelSize: 17
+                        opacity: 1.0 - Math.abs(Tumbler.displacement) / 3
+                        horizontalAlignment: Text.AlignHCenter
+                        verticalAlignment: Text.AlignVCenter
+                    }
+                    Accessible.name: "Day"
+                }
+                Tumbler {
+                    width: parent.width * 0.38
+                    height: parent.height
+                    model: picker.years
+                    visibleItemCount: 5
+                    wrap: false
+                    currentIndex: picker.yearIndex
+                    onCurrentIndexChanged: picker.pickYear(currentIndex)
+                    Accessible.name: "Year"
+                }
+            }
+        }
+    }
+}

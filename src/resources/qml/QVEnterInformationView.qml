@@ -1,0 +1,82 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+QVEnterInformationViewBase {
+    id: view
+
+    nameTextField: name
+    emailTextField: email
+    contentView: card
+    nameIcon: nameIconImage
+    emailIcon: emailIconImage
+
+    height: 130
+
+    FormCard {
+        id: card
+        objectName: "contentView"
+        anchors.fill: parent
+        anchors.margins: 12
+        anchors.bottomMargin: 6
+
+        Image {
+            id: nameIconImage
+            objectName: "nameIcon"
+            x: 14
+            anchors.verticalCenter: name.verticalCenter
+            width: 24
+            height: 24
+            source: "icons/" + view.nameIconName
+            sourceSize: Qt.size(48, 48)
+        }
+        FormTextField {
+            id: name
+            objectName: "nameTextField"
+            anchors.left: nameIconImage.right
+            anchors.right: parent.right
+            anchors.leftMargin: 12
+            anchors.rightMargin: 12
+            y: 8
+            height: 40
+            placeholderText: "Your name"
+            Accessible.name: "Your name"
+            onTextEdited: view.fieldWillChange(name)
+            onClearPressed: view.clearField(name)
+        }
+        Rectangle {
+            anchors.left: name.left
+            anchors.right: parent.right
+            y: parent.height / 2
+            height: 1
+            color: "#ECECF2"
+        }
+        Image {
+            id: emailIconImage
+            objectName: "emailIcon"
+            x: 14
+            anchors.verticalCenter: email.verticalCenter
+            width: 24
+            height: 24
+            source: "icons/" + view.emailIconName
+            sourceSize: Qt.size(48, 48)
+        }
+        FormTextField {
+            id: email
+            objectName: "emailTextField"
+            anchors.left: emailIconImage.right
+            anchors.right: parent.right
+            anchors.leftMargin: 12
+            anchors.rightMargin: 12
+            anchors.bottom: parent.bottom
+            anchors.bottomMargin: 8
+            height: 40
+            color: view.emailTextColor
+            placeholderText: "Email address"
+            inputMethodHints: Qt.ImhEmailCharactersOnly | Qt.ImhNoAutoUppercase
+            Accessible.name: "Email address"
+            onTextEdited: view.fieldWillChange(email)
+            onClearPressed: view.clearField(email)
+        }
+    }
+}

@@ -1,0 +1,44 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+QVEnterOfferTitleViewBase {
+    id: view
+
+    offerNameField: field
+    nameIcon: icon
+
+    height: 68
+
+    FormCard {
+        anchors.fill: parent
+        anchors.margins: 12
+        anchors.topMargin: 0
+        anchors.bottomMargin: 6
+
+        Image {
+            id: icon
+            objectName: "nameIcon"
+            x: 14
+            anchors.verticalCenter: parent.verticalCenter
+            width: 24
+            height: 24
+            source: "icons/" + view.nameIconName
+            sourceSize: Qt.size(48, 48)
+        }
+        FormTextField {
+            id: field
+            objectName: "offerNameField"
+            anchors.left: icon.right
+            anchors.right: parent.right
+            anchors.leftMargin: 12
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            height: 40
+            placeholderText: "Name of the offer"
+            Accessible.name: "Name of the offer"
+            onTextEdited: view.fieldWillChange(field)
+            onClearPressed: view.clearField(field)
+        }
+    }
+}

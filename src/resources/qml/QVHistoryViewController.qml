@@ -1,0 +1,53 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+QVHistoryViewControllerBase {
+    id: history
+
+    collectionView: list
+    noOffersCompleted: empty
+
+    ListView {
+        id: list
+        objectName: "collectionView"
+        anchors.fill: parent
+        model: history.model
+        topMargin: history.sectionInsetTop
+        clip: true
+        reuseItems: true
+        boundsBehavior: Flickable.StopAtBounds
+        ScrollIndicator.vertical: ScrollIndicator {}
+        delegate: QVTransactionCollectionViewCell {
+            required offerName
+            required timestamp
+            required payout
+            width: ListView.view.width
+            height: history.itemHeight
+        }
+    }
+
+    Label {
+        id: empty
+        objectName: "noOffersCompleted"
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: -24
+        visible: false
+        text: "No offers completed yet"
+        font.pixelSize: 19
+        font.bold: true
+        color: "#2B2B36"
+    }
+    Label {
+        anchors.top: empty.bottom
+        anchors.topMargin: 8
+        anchors.horizontalCenter: empty.horizontalCenter
+        width: Math.min(history.width - 48, 300)
+        visible: empty.visible
+        text: "Offers you complete show up here once they are credited."
+        font.pixelSize: 15
+        color: "#5F5F6E"
+        wrapMode: Text.WordWrap
+        horizontalAlignment: Text.AlignHCenter
+    }
+}

@@ -1,0 +1,56 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+QVOfferTimeCompletedViewBase {
+    id: view
+
+    yesButton: yes
+    noButton: no
+    yesCheckmark: yes.checkmark
+    noCheckmark: no.checkmark
+
+    height: 172
+
+    FormCard {
+        anchors.fill: parent
+        anchors.margins: 12
+        anchors.topMargin: 6
+        anchors.bottomMargin: 6
+
+        Text {
+            id: question
+            x: 16
+            y: 14
+            width: parent.width - 32
+            text: "Has it been more than 24 hours since you completed the offer?"
+            font.pixelSize: 15
+            font.bold: true
+            color: "#15151E"
+            wrapMode: Text.Wrap
+        }
+        Column {
+            anchors.top: question.bottom
+            anchors.topMargin: 4
+            anchors.left: parent.left
+            anchors.right: parent.right
+            ChoiceRow {
+                id: yes
+                objectName: "yesButton"
+                checkmarkName: "yesCheckmark"
+                width: parent.width
+                text: "Yes"
+                onClicked: view.onSelectionChange(yes)
+            }
+            ChoiceRow {
+                id: no
+                objectName: "noButton"
+                checkmarkName: "noCheckmark"
+                width: parent.width
+                text: "No"
+                last: true
+                onClicked: view.onSelectionChange(no)
+            }
+        }
+    }
+}

@@ -1,0 +1,72 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+// The open question; the layout numbers come from the cell class, which also measures it.
+QVQACollectionViewCellBase {
+    id: cell
+
+    property string question
+    property string answer
+    signal selected()
+
+    questionLabel: questionText
+    answerLabel: answerText
+
+    AbstractButton {
+        id: card
+        anchors.fill: parent
+        anchors.leftMargin: cell.cardMarginX
+        anchors.rightMargin: cell.cardMarginX
+        anchors.topMargin: cell.cardMarginY
+        anchors.bottomMargin: cell.cardMarginY
+        focusPolicy: Qt.StrongFocus
+        Accessible.role: Accessible.Button
+        Accessible.name: cell.question
+        Accessible.description: cell.answer
+        Keys.onReturnPressed: clicked()
+        Keys.onEnterPressed: clicked()
+        onClicked: cell.selected()
+        background: Rectangle {
+            radius: 10
+            color: "#FFFFFF"
+            border.width: card.visualFocus ? 2 : 1
+            border.color: card.visualFocus ? "#3F51D8" : "#C9CDF2"
+        }
+        contentItem: Item {
+            Text {
+                id: questionText
+                objectName: "questionLabel"
+                x: cell.padding
+                y: cell.padding
+                width: parent.width - 2 * cell.padding - cell.accessoryWidth
+                text: cell.question
+                font.pixelSize: cell.questionPixelSize
+                font.bold: true
+                color: "#2F2A86"
+                wrapMode: Text.Wrap
+            }
+            Image {
+                anchors.right: parent.right
+                anchors.rightMargin: 12
+                y: cell.padding
+                width: 20
+                height: 20
+                rotation: 90
+                source: "icons/chevron.svg"
+                sourceSize: Qt.size(40, 40)
+            }
+            Text {
+                id: answerText
+                objectName: "answerLabel"
+                x: cell.padding
+                y: questionText.y + questionText.height + cell.spacing
+                width: parent.width - 2 * cell.padding
+                text: cell.answer
+                font.pixelSize: cell.answerPixelSize
+                color: "#3C3C46"
+                wrapMode: Text.Wrap
+            }
+        }
+    }
+}

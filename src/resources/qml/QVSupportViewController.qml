@@ -1,0 +1,94 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+QVSupportViewControllerBase {
+    id: root
+
+    segmentedControl: tabs
+    errorLabel: error
+
+    clip: true
+
+    Rectangle {
+        anchors.fill: parent
+        color: root.backgroundColor
+    }
+
+    TabBar {
+        id: tabs
+        objectName: "segmentedControl"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.leftMargin: 16
+        anchors.rightMargin: 16
+        anchors.topMargin: 9
+        height: 34
+        padding: 2
+        spacing: 2
+        onCurrentIndexChanged: root.segmentChanged(currentIndex)
+        background: Rectangle {
+            radius: 9
+            color: "#E6E6EE"
+        }
+        Repeater {
+            model: ["FAQ", "History", "Contact Us"]
+            TabButton {
+                id: segment
+                required property string modelData
+                text: modelData
+                height: 30
+                Accessible.name: modelData
+                background: Rectangle {
+                    radius: 7
+                    color: segment.checked ? "#FFFFFF" : "transparent"
+                    border.width: segment.visualFocus ? 2 : 0
+                    border.color: "#3F51D8"
+                }
+                contentItem: Text {
+                    text: segment.text
+                    font.pixelSize: 14
+                    font.bold: segment.checked
+                    color: segment.checked ? "#15151E" : "#5F5F6E"
+                    horizontalAlignment: Text.AlignHCenter
+                    verticalAlignment: Text.AlignVCenter
+                }
+            }
+        }
+    }
+
+    // The form's messages, under the control and over the tab; its lower corners round.
+    Label {
+        id: error
+        objectName: "errorLabel"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.leftMargin: 12
+        anchors.rightMargin: 12
+        y: root.childTop
+        z: 2
+        visible: false
+        topPadding: 9
+        bottomPadding: 9
+        leftPadding: 14
+        rightPadding: 14
+        wrapMode: Text.Wrap
+        font.pixelSize: 14
+        font.bold: true
+        color: "#FFFFFF"
+        Accessible.role: Accessible.AlertMessage
+        background: Item {
+            Rectangle {
+                anchors.fill: parent
+                radius: root.errorCornerRadius
+                color: "#A53838"
+            }
+            Rectangle {
+                width: parent.width
+                height: root.errorCornerRadius
+                color: "#A53838"
+            }
+        }
+    }
+}

@@ -1,0 +1,117 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QuorvaMedia
+
+QVTransactionCollectionViewCellBase {
+    id: cell
+
+    property string offerName
+    property string timestamp
+    property string payout
+
+    payoutLabel: payoutText
+    statusLabel: status
+    dateLabel: date
+    offernameLabel: name
+    markerView: marker
+
+    Accessible.role: Accessible.ListItem
+    Accessible.name: offerName + ", " + payout + ", " + timestamp
+
+    Rectangle {
+        id: card
+        anchors.fill: parent
+        anchors.leftMargin: 12
+        anchors.rightMargin: 12
+        anchors.topMargin: 6
+        anchors.bottomMargin: 6
+        radius: 10
+        color: "#FFFFFF"
+        border.width: 1
+        border.color: "#E3E3EA"
+        clip: true
+
+        // A tab on the card's left edge; only its right-hand corners are round.
+        Item {
+            id: marker
+            objectName: "markerView"
+            width: 30
+            anchors.top: parent.top
+            anchors.bottom: parent.bottom
+            anchors.topMargin: 18
+            anchors.bottomMargin: 18
+            Rectangle {
+                anchors.fill: parent
+                radius: cell.markerCornerRadius
+                color: "#22A35A"
+            }
+            Rectangle {
+                width: cell.markerCornerRadius
+                height: parent.height
+                color: "#22A35A"
+            }
+            Image {
+                anchors.centerIn: parent
+                anchors.horizontalCenterOffset: -2
+                width: 18
+                height: 18
+                source: "icons/checkmark-white.svg"
+                sourceSize: Qt.size(36, 36)
+            }
+        }
+
+        Column {
+            anchors.left: marker.right
+            anchors.right: payoutText.left
+            anchors.leftMargin: 16
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 6
+            Text {
+                id: name
+                objectName: "offernameLabel"
+                width: parent.width
+                text: cell.offerName
+                font.pixelSize: 17
+                font.bold: true
+                color: "#15151E"
+                elide: Text.ElideRight
+            }
+            Text {
+                id: date
+                objectName: "dateLabel"
+                width: parent.width
+                text: cell.timestamp
+                font.pixelSize: 13
+                color: "#5F5F6E"
+            }
+            Label {
+                id: status
+                objectName: "statusLabel"
+                text: "Credited"
+                font.pixelSize: 12
+                font.bold: true
+                color: "#1E7C46"
+                leftPadding: 8
+                rightPadding: 8
+                topPadding: 3
+                bottomPadding: 3
+                background: Rectangle {
+                    radius: 10
+                    color: "#E3F5EA"
+                }
+            }
+        }
+        Text {
+            id: payoutText
+            objectName: "payoutLabel"
+            anchors.right: parent.right
+            anchors.rightMargin: 16
+            anchors.verticalCenter: parent.verticalCenter
+            text: cell.payout
+            font.pixelSize: 20
+            font.bold: true
+            color: "#22A35A"
+        }
+    }
+}

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+#include "QVEmailViewController.h"
+
+#include <QtGui/QColor>
+#include <QtQuick/QQuickItem>
+
+class QVFAQViewController;
+class QVHistoryViewController;
+
+// The support centre: a segmented control over three tabs (FAQ, history, ticket form)
+// and one error strip in which the form shows its validation messages. Each tab is built
+// the first time it is needed, and the first change of tab builds all three, which is
+// when the history is asked for. The wall opens and closes the centre; it never closes
+// itself.
+class QUORVAMEDIA_EXPORT QVSupportViewController : public QQuickItem, public QVEmailViewControllerDelegate
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(QVSupportViewControllerBase)
+    Q_PROPERTY(QQuickItem *segmentedControl MEMBER m_segmentedControl NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *errorLabel MEMBER m_errorLabel NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY backgroundColorChanged FINAL)
+    Q_PROPERTY(qreal childTop READ childTop CONSTANT FINAL)
+    Q_PROPERTY(qreal errorCornerRadius READ errorCornerRadius CONSTANT FINAL)
+
+public:
+    enum Tab { FaqTab = 0, HistoryTab = 1, FormTab = 2 };
+
+    explicit QVSupportViewController(QQuickItem *parent = nullptr);
+    ~QVSupportViewController() override;
+    static QString identifier() { return QStringLiteral("QVSupportViewController"); }
+    // The tabs fill the centre below this many points.
+    static qreal childTop() { return 50; }
+    static qreal errorCornerRadius() { return 4; }
+
+    QColor backgroundColor() const { return m_backgroundColor; }
+    QQuickItem *errorLabel() const { return m_errorLabel; }
+
+    QVFAQViewController *faqViewController();
+    QVHistoryViewController *historyViewController();
+    QVEmailViewController *emailViewController();
+
+    // The segmented control's action.
+    Q_INVOKABLE void onViewTypeChange(int index);
+    // The control reports each change of its segment here; its first segment being set
+    // while it is built is no change.
+    Q_INVOKABLE void segmentChanged(int index);
+    void invalidInputMessage(const QString &message) override;
+    void hideErrorMessage(QObject *notificationObject);
+
+signals:
+    void outletsChanged();
+    void backgroundColorChanged();
+
+protected:
+    void componentComplete() override;
+    void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
+
+private:
+    void viewDidLoad();
+    template <typename Child>
+    Child *createChild(const char *objectName);
+    void layoutChild(QQuickItem *child);
+    void setBackgroundColor(const QColor &color);
+    void setErrorVisible(bool visible);
+
+    QQuickItem *m_segmentedControl = nullptr;
+    QQuickItem *m_errorLabel = nullptr;
+    QVFAQViewController *m_faqVC = nullptr;
+    QVHistoryViewController *m_historyVC = nullptr;
+    QVEmailViewController *m_emailVC = nullptr;
+    QColor m_backgroundColor = Qt::white;
+    int m_shownSegment = FaqTab;
+};

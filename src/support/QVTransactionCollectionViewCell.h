@@ -1,0 +1,34 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+
+#include <QtQuick/QQuickItem>
+
+// One credited offer of the user's history: name, date, payout, a status label and a
+// marker whose right-hand corners are rounded.
+class QUORVAMEDIA_EXPORT QVTransactionCollectionViewCell : public QQuickItem
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(QVTransactionCollectionViewCellBase)
+    Q_PROPERTY(QQuickItem *payoutLabel MEMBER m_payoutLabel NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *statusLabel MEMBER m_statusLabel NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *dateLabel MEMBER m_dateLabel NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *offernameLabel MEMBER m_offernameLabel NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *markerView MEMBER m_markerView NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(qreal markerCornerRadius READ markerCornerRadius CONSTANT FINAL)
+
+public:
+    using QQuickItem::QQuickItem;
+    static QString identifier() { return QStringLiteral("QVTransactionCollectionViewCell"); }
+    static qreal markerCornerRadius() { return 10; }
+
+signals:
+    void outletsChanged();
+
+private:
+    QQuickItem *m_payoutLabel = nullptr;
+    QQuickItem *m_statusLabel = nullptr;
+    QQuickItem *m_dateLabel = nullptr;
+    QQuickItem *m_offernameLabel = nullptr;
+    QQuickItem *m_markerView = nullptr;
+};

@@ -1,0 +1,311 @@
+// The wall's two overlays, the filter panel and the support centre: on a phone they
+// slide over the list under the header; on a tablet they are popovers under their button.
+#include "QVOffersViewController.h"
+#include "QVComponentFactory.h"
+#include "QVDevice.h"
+#include "QVOffersListModel.h"
+#include "QVSpringCurve.h"
+#include "QVSupportViewController.h"
+
+#include <QtCore/QPropertyAnimation>
+#include <QtQml/QQmlEngine>
+
+namespace {
+constexpr QLatin1StringView kFiltersTitle("Sort/Filter Offers");
+constexpr QLatin1StringView kSupportTitle("Corvel Support");
+constexpr QLatin1StringView kBlurViewType("QVBlurView");
+constexpr QLatin1StringView kFiltersType("QVFiltersViewController");
+constexpr QLatin1StringView kSupportType("QVSupportViewController");
+constexpr qreal kPopoverMargin = 8;
+constexpr int kNoAutoClose = 0;                  // Popup.NoAutoClose
+constexpr int kPlatformClosePolicy = 0x1 | 0x10; // Popup.CloseOnEscape | Popup.CloseOnPressOutside
+
+QQuickItem *popoverHost(QObject *popover)
+{
+    return popover ? popover->property("host").value<QQuickItem *>() : nullptr;
+}
+} // namespace
+
+qreal QVOffersViewController::listHeight() const
+{
+    return m_collectionView ? m_collectionView->height() : height();
+}
+
+qreal QVOffersViewController::listWidth() const
+{
+    return m_collectionView ? m_collectionView->width() : width();
+}
+
+void QVOffersViewController::headerTapped()
+{
+    if (m_isFiltersViewOpen)
+        closeFiltersView();
+    if (m_isSupportViewOpen)
+        closeSupportView();
+}
+
+void QVOffersViewController::onFilterPressed()
+{
+    if (m_isSupportViewOpen) {
+        closeSupportView();
+        return;
+    }
+    if (!m_isFiltersViewOpen) {
+        auto *panel = QVComponentFactory::create<QVFiltersViewController>(qmlEngine(this), kFiltersType);
+        if (!panel)
+            return;
+        // Owned by the wall: a panel still sliding out when the wall goes goes with it.
+        panel->setParent(this);
+        panel->setDelegate(this);
+        panel->setCategoryParam(m_categoryParam);
+        panel->setSortParam(m_sortParam);
+        // On a phone the panel's rows begin below the wall's header.
+        panel->setTopMargin(headerHeight());
+        panel->viewDidLoad();
+        m_filterVC = panel;
+    }
+    if (QVDevice::isTablet()) {
+        presentInPopover(m_filterPopover, m_filterBtn, m_filterVC);
+        return;
+    }
+    if (m_isFiltersViewOpen) {
+        closeFiltersView();
+        return;
+    }
+
+    m_lastHeaderTitle = headerText();
+    setHeaderText(kFiltersTitle);
+    QVFiltersViewController *panel = m_filterVC;
+    panel->setParentItem(this);
+    panel->setClip(true);
+    panel->setZ(1);
+    if (m_headerView)
+        m_headerView->setZ(2); // the header stays above the panel
+    m_blurView = QVComponentFactory::create<QQuickItem>(
+        qmlEngine(this), kBlurViewType, {{QStringLiteral("sourceItem"), QVariant::fromValue(m_collectionView)}});
+    if (m_blurView) {
+        m_blurView->setParent(panel);
+        m_blurView->setParentItem(panel);
+        m_blurView->setZ(-1);
+        connect(panel, &QQuickItem::yChanged, this, &QVOffersViewController::layoutFilterPanel);
+    }
+    panel->setY(-listHeight());
+    layoutFilterPanel();
+    slide(panel, "y", 0, Slide::OpenFilters, false);
+    if (m_closeBtn)
+        m_closeBtn->setVisible(false);
+    m_isFiltersViewOpen = true;
+    emit overlaysChanged();
+}
+
+void QVOffersViewController::layoutFilterPanel()
+{
+    if (!m_filterVC || m_filterVC->parentItem() != this)
+        return;
+    m_filterVC->setX(0);
+    m_filterVC->setSize(size());
+    // The blur stays over the list while the panel moves, so the panel shows the
+    // blurred content beneath it.
+    if (m_blurView && m_blurView->parentItem() == m_filterVC && m_collectionView) {
+        m_blurView->setPosition(m_collectionView->position() - m_filterVC->position());
+        m_blurView->setSize(m_collectionView->size());
+    }
+}
+
+void QVOffersViewController::layoutSupportPanel()
+{
+    if (!m_supportVC || m_supportVC->parentItem() != this)
+        return;
+    m_supportVC->setY(supportTop());
+    m_supportVC->setSize({width(), qMax<qreal>(0, height() - supportTop())});
+}
+
+void QVOffersViewController::slide(QQuickItem *panel, const char *property, qreal to, Slide kind, bool detachWhenDone)
+{
+    const auto motion = kind == Slide::OpenFilters ? QVSpringCurve::Motion::FilterPanelOpen
+                                                   : QVSpringCurve::Motion::PanelSlide;
+    // Only a motion of this same panel is replaced; an earlier panel that is still
+    // sliding out finishes and detaches itself.
+    QPointer<QPropertyAnimation> &running = panel == m_supportVC ? m_supportAnimation : m_filterAnimation;
+    if (running && running->targetObject() == panel)
+        running->stop();
+    auto *animation = new QPropertyAnimation(panel, property, panel);
+    animation->setDuration(int(QVSpringCurve::parameters(motion).durationSeconds * 1000));
+    animation->setEasingCurve(QVSpringCurve::curve(motion));
+    animation->setStartValue(panel->property(property));
+    animation->setEndValue(to);
+    if (detachWhenDone) {
+        // Detach the panel that slid out, not whichever panel is current by then.
+        QPointer<QQuickItem> slidOut = panel;
+        connect(animation, &QPropertyAnimation::finished, this, [slidOut] {
+            if (slidOut)
+                slidOut->deleteLater();
+        });
+    }
+    running = animation;
+    trackSlide(animation);
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void QVOffersViewController::trackSlide(QAbstractAnimation *animation)
+{
+    if (m_runningSlides++ == 0)
+        emit overlayAnimatingChanged();
+    // Stopped or replaced, an animation is destroyed once; that ends its slide.
+    connect(animation, &QObject::destroyed, this, [this] {
+        if (--m_runningSlides == 0)
+            emit overlayAnimatingChanged();
+    });
+}
+
+void QVOffersViewController::closeFiltersView()
+{
+    if (m_filterVC && m_filterVC->parentItem() == this)
+        slide(m_filterVC, "y", -listHeight(), Slide::Other, true);
+    if (m_closeBtn)
+        m_closeBtn->setVisible(true);
+    m_isFiltersViewOpen = false;
+    setHeaderText(m_lastHeaderTitle);
+    emit overlaysChanged();
+}
+
+void QVOffersViewController::onSupportPressed()
+{
+    if (m_isFiltersViewOpen) {
+        closeFiltersView();
+        return;
+    }
+    if (!m_isSupportViewOpen) {
+        auto *support = QVComponentFactory::create<QVSupportViewController>(qmlEngine(this), kSupportType);
+        if (!support)
+            return;
+        support->setParent(this);
+        support->setObjectName(QStringLiteral("supportVC"));
+        m_supportVC = support;
+    }
+    if (QVDevice::isTablet()) {
+        presentInPopover(m_supportPopover, m_supportBtn, m_supportVC);
+        return;
+    }
+    if (m_isSupportViewOpen) {
+        closeSupportView();
+        return;
+    }
+
+    m_lastHeaderTitle = headerText();
+    setHeaderText(kSupportTitle);
+    QVSupportViewController *support = m_supportVC;
+    support->setParentItem(this);
+    support->setZ(1);
+    if (m_headerView)
+        m_headerView->setZ(2);
+    // In from the right, under the header.
+    support->setX(listWidth());
+    layoutSupportPanel();
+    slide(support, "x", 0, Slide::Other, false);
+    if (m_closeBtn)
+        m_closeBtn->setVisible(false);
+    m_isSupportViewOpen = true;
+    emit overlaysChanged();
+}
+
+void QVOffersViewController::closeSupportView()
+{
+    if (m_supportVC && m_supportVC->parentItem() == this)
+        slide(m_supportVC, "x", listWidth(), Slide::Other, true);
+    if (m_closeBtn)
+        m_closeBtn->setVisible(true);
+    m_isSupportViewOpen = false;
+    setHeaderText(m_lastHeaderTitle);
+    emit overlaysChanged();
+}
+
+void QVOffersViewController::presentInPopover(QObject *popover, QQuickItem *button, QQuickItem *panel)
+{
+    QQuickItem *host = popoverHost(popover);
+    if (!host || !panel)
+        return;
+    // Anchored under the pressed button with its arrow pointing up at it.
+    const QRectF anchor = button ? button->mapRectToItem(this, button->boundingRect()) : QRectF();
+    const qreal popoverX = qBound(kPopoverMargin, anchor.center().x() - popoverWidth() / 2,
+                                  qMax(kPopoverMargin, width() - popoverWidth() - kPopoverMargin));
+    popover->setProperty("x", popoverX);
+    popover->setProperty("y", anchor.bottom());
+    popover->setProperty("width", popoverWidth());
+    popover->setProperty("height", height() * popoverHeightRatio());
+    popover->setProperty("arrowX", anchor.center().x() - popoverX);
+    popover->setProperty("closePolicy", kPlatformClosePolicy);
+
+    panel->setParentItem(host);
+    panel->setPosition({0, 0});
+    panel->setSize(host->size());
+    connect(host, &QQuickItem::widthChanged, panel, [panel, host] { panel->setWidth(host->width()); });
+    connect(host, &QQuickItem::heightChanged, panel, [panel, host] { panel->setHeight(host->height()); });
+    QMetaObject::invokeMethod(popover, "open");
+}
+
+void QVOffersViewController::popoverDidPresent(QObject *popover)
+{
+    // Once presented, a tap outside no longer closes it.
+    if (popover)
+        popover->setProperty("closePolicy", kNoAutoClose);
+}
+
+void QVOffersViewController::popoverDidDismiss(QObject *popover)
+{
+    if (!popover)
+        return;
+    popover->setProperty("closePolicy", kPlatformClosePolicy);
+    // The panel in the popover goes with it; the next press builds a new one.
+    if (QQuickItem *host = popoverHost(popover)) {
+        for (QQuickItem *panel : host->childItems()) {
+            if (panel == m_filterVC || panel == m_supportVC) {
+                panel->setParentItem(nullptr);
+                panel->deleteLater();
+            }
+        }
+    }
+}
+
+void QVOffersViewController::dismissPopover(QObject *popover)
+{
+    if (!popover)
+        return;
+    popover->setProperty("closePolicy", kPlatformClosePolicy);
+    QMetaObject::invokeMethod(popover, "close");
+}
+
+void QVOffersViewController::closeSupportPopover()
+{
+    dismissPopover(m_supportPopover);
+}
+
+void QVOffersViewController::onSaveFiltersPressed(const std::optional<QVCategory> &category, const QVSort &sort)
+{
+    m_categoryParam = category;
+    m_sortParam = sort;
+    m_offers->clear();
+    updateLoadFailed();
+    reloadData();
+    loadMoreOffers();
+    if (m_closeBtn)
+        m_closeBtn->setVisible(true);
+    closeFiltersView();
+    if (QVDevice::isTablet())
+        dismissPopover(m_filterPopover);
+}
+
+void QVOffersViewController::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
+{
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    if (newGeometry.size() == oldGeometry.size())
+        return;
+    emit cellSizeChanged();
+    layoutFilterPanel();
+    layoutSupportPanel();
+    // A size transition (rotation) takes a presented popover away.
+    for (QObject *popover : {m_filterPopover, m_supportPopover}) {
+        if (popover && popover->property("visible").toBool() && popover->property("closePolicy").toInt() == kNoAutoClose)
+            dismissPopover(popover);
+    }
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "Patience.h"
+#include "WallHarness.h"
+
+// A wall in a real window with its support centre opened through the header button.
+class SupportHarness : public WallHarness
+{
+public:
+    using WallHarness::WallHarness;
+
+    // Presses the support button and waits until the centre has settled in place.
+    QVSupportViewController *openSupport()
+    {
+        click(find(QStringLiteral("supportBtn")));
+        const bool settled = QTest::qWaitFor([this] { return wall->supportVC() && !wall->isOverlayAnimating(); },
+                                             kPatienceMs)
+            && (!QVDevice::isTablet() || QTest::qWaitFor([this] { return popoverOpened(); }, kPatienceMs))
+            && nextFrame();
+        return settled ? wall->supportVC() : nullptr;
+    }
+
+    bool popoverOpened() const
+    {
+        QObject *popover = wall->findChild<QObject *>(QStringLiteral("supportPopover"));
+        return popover && popover->property("opened").toBool();
+    }
+
+    static void showTab(QVSupportViewController *support, int index)
+    {
+        support->findChild<QObject *>(QStringLiteral("segmentedControl"))->setProperty("currentIndex", index);
+    }
+
+    // The form tab, built and shown.
+    QVEmailViewController *openForm()
+    {
+        QVSupportViewController *support = openSupport();
+        if (!support)
+            return nullptr;
+        showTab(support, QVSupportViewController::FormTab);
+        return nextFrame() ? support->emailViewController() : nullptr;
+    }
+
+    // Brings item into view inside the form's scroll view, then clicks it.
+    void clickInForm(QVEmailViewController *form, QQuickItem *item)
+    {
+        QQuickItem *scroll = form->scrollView();
+        const QRectF inContent = item->mapRectToItem(form->contentView(), item->boundingRect());
+        const qreal maxY = qMax<qreal>(0, scroll->property("contentHeight").toReal() - scroll->height());
+        scroll->setProperty("contentY", qBound<qreal>(0, inContent.center().y() - scroll->height() / 2, maxY));
+        nextFrame(); // pieces just added are laid out by then
+        click(item);
+    }
+
+    // Types into input through the window, key by key.
+    void type(QQuickItem *input, const QString &text)
+    {
+        input->forceActiveFocus(Qt::TabFocusReason);
+        typeKeys(window.get(), text);
+    }
+
+    static void typeKeys(QWindow *target, const QString &text)
+    {
+        for (const QChar c : text) {
+            if (c == u'\n')
+                QTest::keyClick(target, Qt::Key_Return);
+            else
+                QTest::keyClick(target, c.toLatin1());
+        }
+    }
+};

@@ -173,6 +173,8 @@ private:
     enum class Slide { OpenFilters, Other };
     void slide(QQuickItem *panel, const char *property, qreal to, Slide kind, bool detachWhenDone);
     void trackSlide(QAbstractAnimation *animation);
+    void attachPhoneOverlay(QQuickItem *panel, QLatin1StringView title);
+    void setPhoneOverlayOpen(bool &flag, bool open);
     void layoutFilterPanel();
     void layoutSupportPanel();
     qreal listHeight() const;

@@ -73,14 +73,9 @@ void QVOffersViewController::onFilterPressed()
         return;
     }
 
-    m_lastHeaderTitle = headerText();
-    setHeaderText(kFiltersTitle);
     QVFiltersViewController *panel = m_filterVC;
-    panel->setParentItem(this);
+    attachPhoneOverlay(panel, kFiltersTitle);
     panel->setClip(true);
-    panel->setZ(1);
-    if (m_headerView)
-        m_headerView->setZ(2); // the header stays above the panel
     m_blurView = QVComponentFactory::create<QQuickItem>(
         qmlEngine(this), kBlurViewType, {{QStringLiteral("sourceItem"), QVariant::fromValue(m_collectionView)}});
     if (m_blurView) {
@@ -92,9 +87,27 @@ void QVOffersViewController::onFilterPressed()
     panel->setY(-listHeight());
     layoutFilterPanel();
     slide(panel, "y", 0, Slide::OpenFilters, false);
+    setPhoneOverlayOpen(m_isFiltersViewOpen, true);
+}
+
+void QVOffersViewController::attachPhoneOverlay(QQuickItem *panel, QLatin1StringView title)
+{
+    m_lastHeaderTitle = headerText();
+    setHeaderText(title);
+    panel->setParentItem(this);
+    panel->setZ(1);
+    if (m_headerView)
+        m_headerView->setZ(2); // the header stays above the panel
+}
+
+void QVOffersViewController::setPhoneOverlayOpen(bool &flag, bool open)
+{
+    // The close button is hidden for exactly as long as a phone overlay is open.
     if (m_closeBtn)
-        m_closeBtn->setVisible(false);
-    m_isFiltersViewOpen = true;
+        m_closeBtn->setVisible(!open);
+    flag = open;
+    if (!open)
+        setHeaderText(m_lastHeaderTitle);
     emit overlaysChanged();
 }
 
@@ -162,11 +175,7 @@ void QVOffersViewController::closeFiltersView()
 {
     if (m_filterVC && m_filterVC->parentItem() == this)
         slide(m_filterVC, "y", -listHeight(), Slide::Other, true);
-    if (m_closeBtn)
-        m_closeBtn->setVisible(true);
-    m_isFiltersViewOpen = false;
-    setHeaderText(m_lastHeaderTitle);
-    emit overlaysChanged();
+    setPhoneOverlayOpen(m_isFiltersViewOpen, false);
 }
 
 void QVOffersViewController::onSupportPressed()
@@ -192,32 +201,20 @@ void QVOffersViewController::onSupportPressed()
         return;
     }
 
-    m_lastHeaderTitle = headerText();
-    setHeaderText(kSupportTitle);
     QVSupportViewController *support = m_supportVC;
-    support->setParentItem(this);
-    support->setZ(1);
-    if (m_headerView)
-        m_headerView->setZ(2);
+    attachPhoneOverlay(support, kSupportTitle);
     // In from the right, under the header.
     support->setX(listWidth());
     layoutSupportPanel();
     slide(support, "x", 0, Slide::Other, false);
-    if (m_closeBtn)
-        m_closeBtn->setVisible(false);
-    m_isSupportViewOpen = true;
-    emit overlaysChanged();
+    setPhoneOverlayOpen(m_isSupportViewOpen, true);
 }
 
 void QVOffersViewController::closeSupportView()
 {
     if (m_supportVC && m_supportVC->parentItem() == this)
         slide(m_supportVC, "x", listWidth(), Slide::Other, true);
-    if (m_closeBtn)
-        m_closeBtn->setVisible(true);
-    m_isSupportViewOpen = false;
-    setHeaderText(m_lastHeaderTitle);
-    emit overlaysChanged();
+    setPhoneOverlayOpen(m_isSupportViewOpen, false);
 }
 
 void QVOffersViewController::presentInPopover(QObject *popover, QQuickItem *button, QQuickItem *panel)

@@ -37,8 +37,6 @@ private slots:
     void failedFirstPageOffersTryAgain_data();
     void failedFirstPageOffersTryAgain();
     void profileTitleAndItsSilentFailure();
-    void cellSizes_data();
-    void cellSizes();
     void twoColumnsInAWideWindow();
     void cellShowsOfferAndPayout();
     void payoutPressOpensClickAddress();
@@ -261,23 +259,6 @@ void tst_QVOffersViewController::profileTitleAndItsSilentFailure()
     QTRY_COMPARE(harness.wall->offersList().size(), 30);
     QCOMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QString());
     QVERIFY(harness.alert() == nullptr); // the profile fails silently
-}
-
-void tst_QVOffersViewController::cellSizes_data()
-{
-    QTest::addColumn<qreal>("width");
-    QTest::addColumn<QSizeF>("size");
-    QTest::newRow("phone") << 390.0 << QSizeF(390, 140);
-    QTest::newRow("600 is one column") << 600.0 << QSizeF(600, 140);
-    QTest::newRow("601 is two columns") << 601.0 << QSizeF(300.5, 150);
-    QTest::newRow("tablet") << 1024.0 << QSizeF(512, 150);
-}
-
-void tst_QVOffersViewController::cellSizes()
-{
-    QFETCH(qreal, width);
-    QFETCH(QSizeF, size);
-    QCOMPARE(QVOffersViewController::sizeForItem(width), size);
 }
 
 void tst_QVOffersViewController::twoColumnsInAWideWindow()

@@ -32,8 +32,6 @@ private slots:
     void versionSymbols();
     void urlString_data();
     void urlString();
-    void userAgent_data();
-    void userAgent();
     void userAgentHeaderIsSentOnEveryRequest();
     void dateString_data();
     void dateString();
@@ -178,26 +176,9 @@ void tst_QuorvaRestAPI::urlString()
     QCOMPARE(QuorvaRestAPI::sharedInstance()->urlString(QStringLiteral("https://h/p.json"), optional), expected);
 }
 
-void tst_QuorvaRestAPI::userAgent_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("model");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("both") << "HostApp" << "Tablet" << "HostApp Quorva-SDK (iOS/Tablet)";
-    QTest::newRow("no name") << "" << "Phone" << "(null) Quorva-SDK (iOS/Phone)";
-    QTest::newRow("null name") << QString() << "Phone" << "(null) Quorva-SDK (iOS/Phone)";
-}
-
-void tst_QuorvaRestAPI::userAgent()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, model);
-    QFETCH(QString, expected);
-    QCOMPARE(quorva::detail::formatUserAgent(name, model), expected);
-}
-
 void tst_QuorvaRestAPI::userAgentHeaderIsSentOnEveryRequest()
 {
+    QCOMPARE(quorva::detail::formatUserAgent(QString(), QStringLiteral("Phone")), QStringLiteral("(null) Quorva-SDK (iOS/Phone)"));
     QCOMPARE(QuorvaRestAPI::sharedInstance()->customUserAgent(), QStringLiteral("HostApp Quorva-SDK (iOS/Phone)"));
     CallbackProbe probe;
     QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();

@@ -53,11 +53,12 @@ int main(int argc, char **argv)
     const QCommandLineOption body(QStringLiteral("broken-body"), QStringLiteral("Break reply bodies: truncated or not-json."), QStringLiteral("kind"));
     const QCommandLineOption faultPath(QStringLiteral("fault-path"), QStringLiteral("Apply faults only to paths containing this text."), QStringLiteral("text"));
     const QCommandLineOption quiet(QStringLiteral("quiet"), QStringLiteral("Do not log requests."));
+    const QCommandLineOption requestLog(QStringLiteral("request-log"), QStringLiteral("Also append each request's line to this file."), QStringLiteral("file"));
     const QCommandLineOption handshakeTimeout(QStringLiteral("handshake-timeout"), QStringLiteral("Close a connection whose TLS handshake takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("10000"));
     const QCommandLineOption headerTimeout(QStringLiteral("header-timeout"), QStringLiteral("Close a connection whose next request head takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("15000"));
     const QCommandLineOption bodyTimeout(QStringLiteral("body-timeout"), QStringLiteral("Close a connection whose request body takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("30000"));
     parser.addOptions({address, port, dataDir, caOut, latency, drop, dropEvery, status, body, faultPath, quiet,
-                       handshakeTimeout, headerTimeout, bodyTimeout});
+                       handshakeTimeout, headerTimeout, bodyTimeout, requestLog});
     parser.process(app);
 
     sandbox::FaultOptions faults;
@@ -84,7 +85,12 @@ int main(int argc, char **argv)
         }
         sandbox::SandboxStore store(directory + "/sandbox.sqlite");
         const bool logRequests = !parser.isSet(quiet);
-        sandbox::SandboxService service(store, faults, [logRequests](const std::string &line) {
+        std::ofstream requestFile;
+        if (parser.isSet(requestLog))
+            requestFile.open(parser.value(requestLog).toStdString(), std::ios::app);
+        sandbox::SandboxService service(store, faults, [logRequests, &requestFile](const std::string &line) {
+            if (requestFile.is_open())
+                requestFile << line << '\n' << std::flush;
             if (logRequests)
                 std::cout << line << std::endl;
         });

@@ -54,6 +54,7 @@ private slots:
     void oneCallIsOneRequestOnTheWire_data();
     void oneCallIsOneRequestOnTheWire();
     void refusedConnectionFails();
+    void untrustedServerFails();
     void stalledTransfersTimeOut_data();
     void stalledTransfersTimeOut();
     void repliesOverTheCapFail_data();
@@ -577,6 +578,22 @@ void tst_QuorvaRestAPI::refusedConnectionFails()
     QTRY_VERIFY(probe.finished());
     QCOMPARE(probe.failures, 1);
     QVERIFY(!probe.ranBeforeReturn);
+}
+
+void tst_QuorvaRestAPI::untrustedServerFails()
+{
+    // A server whose authority the host never added: the TLS check refuses it.
+    ScriptedServer stranger;
+    stranger.respond(200, R"({"offers":[{"name":"A"}]})");
+    configure(stranger.baseAddress());
+    CallbackProbe probe;
+    start(Kind::Offers, probe);
+    QTRY_VERIFY(probe.finished());
+    QCOMPARE(probe.failures, 1);
+    QCOMPARE(stranger.requestCount(), 0);
+    // The same request over plain http reaches it: only trust failed.
+    start(Kind::Profile, probe);
+    QTRY_COMPARE(probe.successes, 1);
 }
 
 void tst_QuorvaRestAPI::stalledTransfersTimeOut_data()

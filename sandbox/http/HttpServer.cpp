@@ -137,6 +137,9 @@ struct HttpServer::Impl
             beast::error_code ec;
             tcp::socket socket = co_await acceptor.async_accept(asio::redirect_error(use_awaitable, ec));
             if (!ec) {
+                // Answers go out as soon as they are written, not after the peer's
+                // delayed acknowledgement of the previous piece.
+                socket.set_option(tcp::no_delay(true), ec);
                 asio::co_spawn(io, session(std::move(socket)), asio::detached);
                 continue;
             }

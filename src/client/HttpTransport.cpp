@@ -5,6 +5,7 @@
 #include <curl/curl.h>
 #include <openssl/ssl.h>
 #include <openssl/x509.h>
+#include <openssl/x509_vfy.h>
 
 #include <memory>
 #include <mutex>
@@ -17,10 +18,70 @@ constexpr QLatin1StringView kNeverInAddress(" \"<>\\^`{|}#");
 // too large rather than as a broken connection.
 constexpr qint64 kMaximumHeadBytes = 256 * 1024;
 
-void initialiseOnce()
+// Process-wide state of the transport: the library's initialisation and what every
+// connection shares (resumable TLS sessions), under locks the library asks for.
+struct Shared
 {
-    static std::once_flag once;
-    std::call_once(once, [] { curl_global_init(CURL_GLOBAL_DEFAULT); });
+    CURLSH *share = nullptr;
+    std::mutex locks[CURL_LOCK_DATA_LAST];
+};
+
+Shared &shared()
+{
+    static Shared *state = [] {
+        curl_global_init(CURL_GLOBAL_DEFAULT);
+        auto *s = new Shared;
+        s->share = curl_share_init();
+        curl_share_setopt(s->share, CURLSHOPT_LOCKFUNC, +[](CURL *, curl_lock_data data, curl_lock_access, void *user) {
+            static_cast<Shared *>(user)->locks[data].lock();
+        });
+        curl_share_setopt(s->share, CURLSHOPT_UNLOCKFUNC, +[](CURL *, curl_lock_data data, void *user) {
+            static_cast<Shared *>(user)->locks[data].unlock();
+        });
+        curl_share_setopt(s->share, CURLSHOPT_USERDATA, s);
+        curl_share_setopt(s->share, CURLSHOPT_SHARE, CURL_LOCK_DATA_SSL_SESSION);
+        return s;
+    }();
+    return *state;
+}
+
+// The certificate authorities a connection trusts: the system's, found on demand in its
+// hashed certificate folder (not parsed from one large bundle for every connection), and
+// the host's. Built once per set of host authorities and shared by every connection.
+class TrustStore
+{
+public:
+    X509_STORE *storeFor(const std::shared_ptr<const QList<QByteArray>> &extra)
+    {
+        std::lock_guard lock(m_mutex);
+        if (m_store && m_extra == extra)
+            return m_store;
+        if (m_store)
+            X509_STORE_free(m_store);
+        m_extra = extra;
+        m_store = X509_STORE_new();
+        if (X509_LOOKUP *folder = X509_STORE_add_lookup(m_store, X509_LOOKUP_hash_dir()))
+            X509_LOOKUP_add_dir(folder, X509_get_default_cert_dir(), X509_FILETYPE_PEM);
+        for (const QByteArray &der : extra ? *extra : QList<QByteArray>()) {
+            const auto *bytes = reinterpret_cast<const unsigned char *>(der.constData());
+            if (X509 *certificate = d2i_X509(nullptr, &bytes, long(der.size()))) {
+                X509_STORE_add_cert(m_store, certificate);
+                X509_free(certificate);
+            }
+        }
+        return m_store;
+    }
+
+private:
+    std::mutex m_mutex;
+    std::shared_ptr<const QList<QByteArray>> m_extra;
+    X509_STORE *m_store = nullptr;
+};
+
+TrustStore &trustStore()
+{
+    static TrustStore *store = new TrustStore;
+    return *store;
 }
 
 struct Reception
@@ -60,19 +121,10 @@ size_t onHeader(char *, size_t size, size_t count, void *user)
     return reception->take(qint64(size * count), true) ? size * count : 0;
 }
 
-// Adds the host's certificate authorities to the system's for this connection.
+// Gives the connection the shared store of trusted authorities.
 CURLcode onTlsContext(CURL *, void *context, void *user)
 {
-    const auto *authorities = static_cast<const QList<QByteArray> *>(user);
-    X509_STORE *store = SSL_CTX_get_cert_store(static_cast<SSL_CTX *>(context));
-    for (const QByteArray &der : *authorities) {
-        const auto *bytes = reinterpret_cast<const unsigned char *>(der.constData());
-        X509 *certificate = d2i_X509(nullptr, &bytes, long(der.size()));
-        if (!certificate)
-            continue;
-        X509_STORE_add_cert(store, certificate);
-        X509_free(certificate);
-    }
+    SSL_CTX_set1_cert_store(static_cast<SSL_CTX *>(context), static_cast<X509_STORE *>(user));
     return CURLE_OK;
 }
 
@@ -107,7 +159,7 @@ bool HttpTransport::isSendableAddress(const QString &address)
 
 TransferResult HttpTransport::perform(const TransferRequest &request)
 {
-    initialiseOnce();
+    Shared &state = shared();
     TransferResult result;
     std::unique_ptr<CURL, HandleDeleter> handle(curl_easy_init());
     if (!handle)
@@ -137,10 +189,13 @@ TransferResult HttpTransport::perform(const TransferRequest &request)
     curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &onHeader);
     curl_easy_setopt(curl, CURLOPT_HEADERDATA, &reception);
     curl_easy_setopt(curl, CURLOPT_USERAGENT, request.userAgent.constData());
-    if (request.extraAuthorities && !request.extraAuthorities->isEmpty()) {
-        curl_easy_setopt(curl, CURLOPT_SSL_CTX_FUNCTION, &onTlsContext);
-        curl_easy_setopt(curl, CURLOPT_SSL_CTX_DATA, request.extraAuthorities.get());
-    }
+    // Verification stays on; the authorities come from the shared store, not from files
+    // the library would read for this connection.
+    curl_easy_setopt(curl, CURLOPT_SHARE, state.share);
+    curl_easy_setopt(curl, CURLOPT_CAINFO, nullptr);
+    curl_easy_setopt(curl, CURLOPT_CAPATH, nullptr);
+    curl_easy_setopt(curl, CURLOPT_SSL_CTX_FUNCTION, &onTlsContext);
+    curl_easy_setopt(curl, CURLOPT_SSL_CTX_DATA, trustStore().storeFor(request.extraAuthorities));
 
     // Only the headers that belong to the request: no Accept, no Expect handshake.
     curl_slist *headers = curl_slist_append(nullptr, "Accept:");

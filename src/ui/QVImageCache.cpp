@@ -1,5 +1,7 @@
 #include "QVImageCache.h"
 
+#include <QtCore/QCoreApplication>
+#include <QtCore/QThread>
 #include <QtCore/QThreadPool>
 
 namespace {
@@ -81,4 +83,20 @@ qsizetype QVImageCache::count() const
 {
     QMutexLocker lock(&m_mutex);
     return m_cache.count();
+}
+
+QVImageCache::Statistics QVImageCache::statistics() const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_statistics;
+}
+
+void QVImageCache::noteDecode(const QSize &decodedSize)
+{
+    const bool onGuiThread = QCoreApplication::instance()
+        && QThread::currentThread() == QCoreApplication::instance()->thread();
+    QMutexLocker lock(&m_mutex);
+    ++m_statistics.decodes;
+    m_statistics.decodesOnGuiThread += onGuiThread ? 1 : 0;
+    m_statistics.largestDecoded = m_statistics.largestDecoded.expandedTo(decodedSize);
 }

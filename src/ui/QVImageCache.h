@@ -20,6 +20,17 @@ public:
     // Pool on which downloaded pictures are decoded.
     static QThreadPool *sharedOperationQueue();
 
+    // What decoding has cost so far, for hosts and benchmarks that watch it.
+    struct Statistics
+    {
+        qint64 decodes = 0;
+        qint64 decodesOnGuiThread = 0;
+        QSize largestDecoded;
+    };
+    Statistics statistics() const;
+    // Called by the picture loader for every picture it decodes.
+    void noteDecode(const QSize &decodedSize);
+
     QImage object(const QString &key) const;
     bool contains(const QString &key) const;
     void insert(const QString &key, const QImage &image);
@@ -34,4 +45,5 @@ private:
     QVImageCache();
     mutable QMutex m_mutex;
     QCache<QString, QImage> m_cache;
+    Statistics m_statistics;
 };

@@ -78,6 +78,7 @@ void QVImageView::downloadImage(std::shared_ptr<DownloadOperation> operation)
             // and clears the view.
             QImage image;
             image.loadFromData(bytes);
+            QVImageCache::sharedImageCache()->noteDecode(image.size());
             if (!image.isNull())
                 image.convertTo(QImage::Format_ARGB32_Premultiplied);
             QVImageCache::sharedImageCache()->insert(key, image);

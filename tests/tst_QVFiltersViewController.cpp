@@ -275,11 +275,12 @@ void tst_QVFiltersViewController::tabletPopover()
     QVERIFY(harness.show());
     QQuickItem *title = harness.find(QStringLiteral("headerTitle"));
     QTRY_COMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
-    QObject *popover = harness.wall->findChild<QObject *>(QStringLiteral("filterPopover"));
-    QVERIFY(popover);
+    QVERIFY(!harness.wall->findChild<QObject *>(QStringLiteral("filterPopover"))); // built when first needed
 
     QVFiltersViewController *panel = openPanel(harness);
     QVERIFY(panel);
+    QObject *popover = harness.wall->findChild<QObject *>(QStringLiteral("filterPopover"));
+    QVERIFY(popover);
     QTRY_VERIFY(popover->property("opened").toBool());
     QCOMPARE(popover->property("closePolicy").toInt(), 0); // a tap outside no longer closes it
     QCOMPARE(popover->property("width").toReal(), 360.0);

@@ -12,9 +12,9 @@ using quorva::http::HttpRequest;
 using quorva::http::HttpResponse;
 
 namespace {
-QByteArray pngOf(const QColor &color)
+QByteArray pngOf(const QColor &color, int side = 8)
 {
-    QImage image(8, 8, QImage::Format_ARGB32);
+    QImage image(side, side, QImage::Format_ARGB32);
     image.fill(color);
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -39,6 +39,7 @@ private slots:
     void startedDownloadRunsOnAfterNewAddress();
     void cacheIsBoundedByBytes();
     void laterAddressCancelsDownloadNotYetStarted();
+    void pictureIsKeptAtTheSizeShown();
 
 private:
     QUrl address(const QString &path) const
@@ -59,7 +60,10 @@ void tst_QVImageView::initTestCase()
     QVERIFY(QTest::qWaitForWindowExposed(&m_window));
     const QByteArray red = pngOf(Qt::red);
     const QByteArray blue = pngOf(Qt::blue);
-    m_server.respond([red, blue](const HttpRequest &request) {
+    const QByteArray large = pngOf(Qt::green, 400);
+    m_server.respond([red, blue, large](const HttpRequest &request) {
+        if (request.path.starts_with("/large"))
+            return HttpResponse::json(200, large.toStdString());
         if (request.path.starts_with("/red"))
             return HttpResponse::json(200, red.toStdString());
         if (request.path.starts_with("/blue"))
@@ -184,6 +188,32 @@ void tst_QVImageView::laterAddressCancelsDownloadNotYetStarted()
     view->setImageWithURL(address(QStringLiteral("/blue/8.png")));
     QCOMPARE(view->downloadOperation(), operation);
     QVERIFY(operation->cancelled);
+}
+
+
+
+void tst_QVImageView::pictureIsKeptAtTheSizeShown()
+{
+    // A 400-pixel picture in a 40-point view is decoded, cropped and rounded once, and
+    // the cache holds it at the size shown rather than at full size.
+    std::unique_ptr<QVImageView> view(newView());
+    view->setCornerRadius(10);
+    const QSize shown = (view->size() * m_window.effectiveDevicePixelRatio()).toSize();
+    view->setImageWithURL(address(QStringLiteral("/large/11.png")));
+    QTRY_VERIFY(view->hasImage());
+    QCOMPARE(view->image().size(), shown);
+    QCOMPARE(view->image().pixelColor(shown.width() / 2, shown.height() / 2), QColor(Qt::green));
+    QCOMPARE(view->image().pixelColor(0, 0).alpha(), 0); // outside the rounded corner
+    const QImage cached = QVImageCache::sharedImageCache()->object(address(QStringLiteral("/large/11.png")).toString());
+    QCOMPARE(cached.size(), shown);
+    QVERIFY(QVImageCache::sharedImageCache()->statistics().largestDecoded.width() < 400);
+
+    // A view of another size shows the cached picture too, prepared for its own shape.
+    std::unique_ptr<QVImageView> other(newView());
+    other->setSize({20, 20});
+    other->setImageWithURL(address(QStringLiteral("/large/11.png")));
+    QVERIFY(other->hasImage());
+    QCOMPARE(m_server.requestCount(), 1);
 }
 
 QTEST_MAIN(tst_QVImageView)

@@ -266,12 +266,17 @@ void tst_QVOffersViewController::twoColumnsInAWideWindow()
     WallHarness harness({600, 700});
     QVERIFY(harness.show());
     QTRY_VERIFY(harness.cells().size() >= 2);
-    QCOMPARE(harness.cells()[1]->x(), 0.0); // one column
-    QCOMPARE(harness.cells()[0]->height(), 140.0);
+    auto *content = harness.list()->property("contentItem").value<QQuickItem *>();
+    auto place = [content](QQuickItem *cell) { return cell->mapRectToItem(content, cell->boundingRect()); };
+    QCOMPARE(place(harness.cells()[1]).x(), 0.0); // one column: the second offer is below
+    QCOMPARE(place(harness.cells()[1]).y(), place(harness.cells()[0]).bottom());
+    QCOMPARE(harness.cells()[0]->size(), QSizeF(600, 140));
     harness.resize({601, 700});
-    QTRY_COMPARE(harness.list()->property("cellWidth").toReal(), 300.5);
-    QTRY_COMPARE(harness.cells()[1]->x(), 300.5);
-    QCOMPARE(harness.cells()[0]->height(), 150.0);
+    QTRY_COMPARE(harness.wall->columns(), 2);
+    QTRY_COMPARE(place(harness.cells()[1]).x(), 300.5); // side by side
+    QCOMPARE(place(harness.cells()[1]).y(), place(harness.cells()[0]).y());
+    QCOMPARE(harness.cells()[0]->size(), QSizeF(300.5, 150));
+    QCOMPARE(harness.cells()[2]->row(), 2);
 }
 
 void tst_QVOffersViewController::cellShowsOfferAndPayout()

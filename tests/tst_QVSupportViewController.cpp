@@ -244,8 +244,9 @@ void tst_QVSupportViewController::everyControlHasAnAccessibleNameAndRole()
     for (qsizetype i = 0; i < items.size(); ++i) {
         QQuickItem *item = items[i];
         items += item->childItems();
+        // Controls of the style, and plain items the keyboard can reach.
         const bool control = item->inherits("QQuickAbstractButton") || item->inherits("QQuickTextInput")
-            || item->inherits("QQuickTextEdit");
+            || item->inherits("QQuickTextEdit") || item->activeFocusOnTab();
         if (!control || !item->isVisible())
             continue;
         ++controls;

@@ -1,5 +1,6 @@
 #include "ReplyParsers.h"
 #include "JsonValues.h"
+#include "OffersReader.h"
 #include "ServiceTimestamp.h"
 
 #include <QtCore/QJsonDocument>
@@ -56,20 +57,43 @@ QList<Record> records(const QJsonArray &list, Build build)
 }
 } // namespace
 
-QList<QVOffer> parseOffers(const QByteArray &body)
+QVOffer offerFromFields(OfferFields &&fields)
+{
+    QVOffer offer;
+    offer.setOfferId(std::move(fields.offerId));
+    offer.setOfferName(std::move(fields.name));
+    offer.setOfferDescription(std::move(fields.description));
+    QString image;
+    image.reserve(kImageScheme.size() + (fields.imageUrl.isNull() ? kAbsentText.size() : fields.imageUrl.size()));
+    image += kImageScheme;
+    if (fields.imageUrl.isNull())
+        image += kAbsentText;
+    else
+        image += fields.imageUrl;
+    offer.setImageURL(image);
+    offer.setClickURL(std::move(fields.clickUrl));
+    offer.setCurrencyCount(std::move(fields.currencyCount));
+    return offer;
+}
+
+QList<QVOffer> parseOffersGenerally(const QByteArray &body)
 {
     const QJsonArray list = json::array(json::object(topLevel(body)).value(key::offers));
     return records<QVOffer>(list, [](const QJsonObject &o) {
-        QVOffer offer;
-        offer.setOfferId(json::stringOrNumberText(o.value(key::offerId)));
-        offer.setOfferName(json::string(o.value(key::name)));
-        offer.setOfferDescription(json::string(o.value(key::description)));
-        const QString image = json::string(o.value(key::imageUrl));
-        offer.setImageURL(kImageScheme + (image.isNull() ? QString(kAbsentText) : image));
-        offer.setClickURL(json::string(o.value(key::clickUrl)));
-        offer.setCurrencyCount(json::numberText(o.value(key::currencyCount)));
-        return offer;
+        return offerFromFields({json::stringOrNumberText(o.value(key::offerId)), json::string(o.value(key::name)),
+                                json::string(o.value(key::description)),
+                                json::numberText(o.value(key::currencyCount)), json::string(o.value(key::imageUrl)),
+                                json::string(o.value(key::clickUrl))});
     });
+}
+
+QList<QVOffer> parseOffers(const QByteArray &body)
+{
+    // Pages come often and are plain; the direct reader takes them, and anything it
+    // is unsure of goes the general way.
+    if (std::optional<QList<QVOffer>> offers = readOffersDirectly(body))
+        return *std::move(offers);
+    return parseOffersGenerally(body);
 }
 
 QVProfile parseProfile(const QByteArray &body)

@@ -15,6 +15,8 @@
 namespace quorva::detail {
 
 QUORVAMEDIA_EXPORT QList<QVOffer> parseOffers(const QByteArray &body);
+// The same records through a whole JSON document, for any body.
+QUORVAMEDIA_EXPORT QList<QVOffer> parseOffersGenerally(const QByteArray &body);
 QUORVAMEDIA_EXPORT QVProfile parseProfile(const QByteArray &body);
 QUORVAMEDIA_EXPORT QList<QVCategory> parseCategories(const QByteArray &body);
 QUORVAMEDIA_EXPORT QList<QVTransaction> parseTransactions(const QByteArray &body);

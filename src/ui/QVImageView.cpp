@@ -2,9 +2,12 @@
 #include "QVImageCache.h"
 #include "QVPictureNetwork.h"
 
+#include <QtCore/QBuffer>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 #include <QtCore/QThreadPool>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QImageReader>
 #include <QtGui/QPainter>
 #include <QtGui/QPainterPath>
 #include <QtNetwork/QNetworkAccessManager>
@@ -25,6 +28,47 @@ bool answered(const QNetworkReply *reply)
 void postToGui(QObject *context, std::function<void()> fn)
 {
     QMetaObject::invokeMethod(context, std::move(fn), Qt::QueuedConnection);
+}
+
+// A prepared picture remembers the corner radius it was rounded with, so a view of
+// another shape can tell that it must prepare it again.
+constexpr QLatin1StringView kRadiusKey("quorva-corner-radius");
+
+// The picture as a view of that many pixels shows it: scaled to fill, the longer side
+// cropped, the corners rounded. Drawn once, off the GUI thread where it can be.
+QImage prepared(const QImage &picture, const QSize &pixels, qreal radius)
+{
+    if (picture.isNull() || pixels.isEmpty())
+        return picture;
+    QImage target(pixels, QImage::Format_ARGB32_Premultiplied);
+    target.fill(Qt::transparent);
+    QPainter painter(&target);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    QPainterPath clip;
+    clip.addRoundedRect(QRectF(QPointF(), QSizeF(pixels)), radius, radius);
+    painter.setClipPath(clip);
+    const QSizeF source = picture.size();
+    const qreal scale = qMax(pixels.width() / source.width(), pixels.height() / source.height());
+    const QSizeF drawn = source * scale;
+    painter.drawImage(QRectF(QPointF((pixels.width() - drawn.width()) / 2, (pixels.height() - drawn.height()) / 2), drawn),
+                      picture);
+    painter.end();
+    target.setText(kRadiusKey, QString::number(radius));
+    return target;
+}
+
+// Decodes straight to about the size shown when the format allows, so a large picture
+// never sits in memory at full size.
+QImage decode(const QByteArray &bytes, const QSize &pixels)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    QImageReader reader(&buffer);
+    const QSize natural = reader.size();
+    if (!pixels.isEmpty() && natural.isValid() && natural.width() > pixels.width() && natural.height() > pixels.height()) {
+        reader.setScaledSize(natural.scaled(pixels, Qt::KeepAspectRatioByExpanding));
+    }
+    return reader.read();
 }
 } // namespace
 
@@ -66,21 +110,22 @@ void QVImageView::downloadImage(std::shared_ptr<DownloadOperation> operation)
     QNetworkReply *reply = QVPictureNetwork::get(operation->url);
     const QString key = operation->url.toString();
     QPointer<QVImageView> self(this);
-    connect(reply, &QNetworkReply::finished, reply, [reply, self, key, operation] {
+    const QSize pixels = pixelSize();
+    const qreal radius = m_cornerRadius * devicePixelRatio();
+    connect(reply, &QNetworkReply::finished, reply, [reply, self, key, operation, pixels, radius] {
         reply->deleteLater();
         if (!answered(reply) || !self || self->m_downloadOperation->cancelled) {
             operation->finished = true;
             return;
         }
         const QByteArray bytes = reply->readAll();
-        QVImageCache::sharedOperationQueue()->start([bytes, key, self, operation] {
+        QVImageCache::sharedOperationQueue()->start([bytes, key, self, operation, pixels, radius] {
             // The status is not checked: a body that is no picture decodes to nothing
             // and clears the view.
-            QImage image;
-            image.loadFromData(bytes);
+            QImage image = decode(bytes, pixels);
             QVImageCache::sharedImageCache()->noteDecode(image.size());
             if (!image.isNull())
-                image.convertTo(QImage::Format_ARGB32_Premultiplied);
+                image = prepared(image.convertToFormat(QImage::Format_ARGB32_Premultiplied), pixels, radius);
             QVImageCache::sharedImageCache()->insert(key, image);
             postToGui(QCoreApplication::instance(), [self, image, operation] {
                 operation->finished = true;
@@ -122,27 +167,26 @@ void QVImageView::geometryChange(const QRectF &newGeometry, const QRectF &oldGeo
     }
 }
 
+qreal QVImageView::devicePixelRatio() const
+{
+    if (window())
+        return window()->effectiveDevicePixelRatio();
+    return qApp ? qApp->devicePixelRatio() : 1.0;
+}
+
+QSize QVImageView::pixelSize() const
+{
+    return (size() * devicePixelRatio()).toSize();
+}
+
 QImage QVImageView::renderedImage() const
 {
-    // Fill the item, cropping the picture's longer side, with rounded corners; drawn
-    // once per picture and size rather than every frame.
-    const qreal dpr = window() ? window()->effectiveDevicePixelRatio() : 1.0;
-    const QSize pixels = (size() * dpr).toSize();
-    if (pixels.isEmpty() || m_image.isNull())
-        return {};
-    QImage target(pixels, QImage::Format_ARGB32_Premultiplied);
-    target.fill(Qt::transparent);
-    QPainter painter(&target);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    QPainterPath clip;
-    clip.addRoundedRect(QRectF(QPointF(), QSizeF(pixels)), m_cornerRadius * dpr, m_cornerRadius * dpr);
-    painter.setClipPath(clip);
-    const QSizeF source = m_image.size();
-    const qreal scale = qMax(pixels.width() / source.width(), pixels.height() / source.height());
-    const QSizeF drawn = source * scale;
-    painter.drawImage(QRectF(QPointF((pixels.width() - drawn.width()) / 2, (pixels.height() - drawn.height()) / 2), drawn),
-                      m_image);
-    return target;
+    // A picture prepared for this view's shape is shown as it is; one prepared for
+    // another (a cached picture shown at another size) is prepared again.
+    const QSize pixels = pixelSize();
+    if (m_image.size() == pixels && m_image.text(kRadiusKey) == QString::number(m_cornerRadius * devicePixelRatio()))
+        return m_image;
+    return prepared(m_image, pixels, m_cornerRadius * devicePixelRatio());
 }
 
 QSGNode *QVImageView::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
@@ -158,7 +202,7 @@ QSGNode *QVImageView::updatePaintNode(QSGNode *oldNode, UpdatePaintNodeData *)
         m_textureDirty = true;
     }
     if (m_textureDirty) {
-        node->setTexture(window()->createTextureFromImage(renderedImage()));
+        node->setTexture(window()->createTextureFromImage(renderedImage(), QQuickWindow::TextureCanUseAtlas));
         node->setFiltering(QSGTexture::Linear);
         m_textureDirty = false;
     }

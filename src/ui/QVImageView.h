@@ -53,6 +53,8 @@ protected:
 private:
     void downloadImage(std::shared_ptr<DownloadOperation> operation);
     QImage renderedImage() const;
+    qreal devicePixelRatio() const;
+    QSize pixelSize() const;
 
     QImage m_image;
     qreal m_cornerRadius = 0;

@@ -1,7 +1,6 @@
 #include "QVOfferUICollectionViewCell.h"
 #include "QVImageView.h"
 
-#include <utility>
 
 QVOfferUICollectionViewCell::QVOfferUICollectionViewCell(QQuickItem *parent) : QQuickItem(parent) {}
 
@@ -11,12 +10,18 @@ void QVOfferUICollectionViewCell::setRow(int row)
         return;
     m_row = row;
     emit rowChanged();
-    // Once complete, a cell changes row only when the list reuses it, and the reuse
-    // announcement that follows need not fill it a second time.
-    if (isComponentComplete()) {
+    if (isComponentComplete())
         configure();
-        m_filledForReuse = true;
-    }
+}
+
+void QVOfferUICollectionViewCell::setGeneration(int generation)
+{
+    if (m_generation == generation)
+        return;
+    m_generation = generation;
+    emit generationChanged();
+    if (isComponentComplete())
+        configure();
 }
 
 void QVOfferUICollectionViewCell::setDataSource(QObject *source)
@@ -36,19 +41,19 @@ void QVOfferUICollectionViewCell::componentComplete()
     configure();
 }
 
-void QVOfferUICollectionViewCell::reload()
-{
-    // Reused at the same row (after the list was emptied and refilled, say), the cell
-    // still shows an earlier offer: fill it again.
-    if (std::exchange(m_filledForReuse, false))
-        return;
-    configure();
-}
-
 void QVOfferUICollectionViewCell::configure()
 {
-    if (auto *source = dynamic_cast<QVOfferUICollectionViewCellDelegate *>(m_dataSource.data()); source && m_row >= 0)
-        source->configureCell(this, m_row);
+    // Reused at another place, or at the same place of a list that changed: fill again.
+    // Otherwise the cell already shows its offer, and a second fill would only restart
+    // its picture.
+    if (m_row == m_filledRow && m_generation == m_filledGeneration)
+        return;
+    auto *source = dynamic_cast<QVOfferUICollectionViewCellDelegate *>(m_dataSource.data());
+    if (!source || m_row < 0)
+        return;
+    const bool filled = source->configureCell(this, m_row);
+    m_filledRow = filled ? m_row : -1;
+    m_filledGeneration = m_generation;
 }
 
 void QVOfferUICollectionViewCell::onCreditsBtnPressed()

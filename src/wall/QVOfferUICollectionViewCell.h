@@ -15,8 +15,9 @@ class QUORVAMEDIA_EXPORT QVOfferUICollectionViewCellDelegate
 public:
     virtual ~QVOfferUICollectionViewCellDelegate() = default;
     virtual void onCreditsPressed(const QString &clickURL) = 0;
-    // Fills a cell for a row of the list; cells ask when they are built or reused.
-    virtual void configureCell(QVOfferUICollectionViewCell *cell, int row) = 0;
+    // Fills a cell with the offer at that place of the list; cells ask when they are
+    // built or reused. False when there is no such offer (yet).
+    virtual bool configureCell(QVOfferUICollectionViewCell *cell, int row) = 0;
 };
 
 // One offer of the wall: picture, name, description and a payout button on a card.
@@ -25,6 +26,7 @@ class QUORVAMEDIA_EXPORT QVOfferUICollectionViewCell : public QQuickItem
     Q_OBJECT
     QML_NAMED_ELEMENT(QVOfferUICollectionViewCellBase)
     Q_PROPERTY(int row READ row WRITE setRow NOTIFY rowChanged FINAL)
+    Q_PROPERTY(int generation READ generation WRITE setGeneration NOTIFY generationChanged FINAL)
     Q_PROPERTY(QObject *dataSource READ dataSource WRITE setDataSource NOTIFY dataSourceChanged FINAL)
     Q_PROPERTY(QString clickURL READ clickURL WRITE setClickURL NOTIFY clickURLChanged FINAL)
     Q_PROPERTY(QString offerName READ offerName NOTIFY offerNameChanged FINAL)
@@ -53,8 +55,12 @@ public:
     QVOfferUICollectionViewCellDelegate *delegate() const { return m_delegate; }
     void setDelegate(QVOfferUICollectionViewCellDelegate *delegate) { m_delegate = delegate; }
 
+    // The offer's place in the wall's list.
     int row() const { return m_row; }
     void setRow(int row);
+    // Changes when what the cell should show may have changed without its place.
+    int generation() const { return m_generation; }
+    void setGeneration(int generation);
     QObject *dataSource() const { return m_dataSource; }
     void setDataSource(QObject *source);
 
@@ -72,12 +78,10 @@ public:
 
     // The payout button's action.
     Q_INVOKABLE void onCreditsBtnPressed();
-    // Called when the list reuses the cell: asks the data source to fill it again
-    // unless the change of row already did.
-    Q_INVOKABLE void reload();
 
 signals:
     void rowChanged();
+    void generationChanged();
     void dataSourceChanged();
     void clickURLChanged();
     void offerNameChanged();
@@ -96,7 +100,10 @@ private:
     QVOfferUICollectionViewCellDelegate *m_delegate = nullptr;
     QPointer<QObject> m_dataSource;
     int m_row = -1;
-    bool m_filledForReuse = false;
+    int m_generation = 0;
+    // What the cell shows now; it is filled again only when either changes.
+    int m_filledRow = -1;
+    int m_filledGeneration = -1;
     QString m_clickURL;
     QString m_offerName;
     QString m_offerDescription;

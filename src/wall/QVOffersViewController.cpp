@@ -8,8 +8,12 @@
 #include "QuorvaLog.h"
 #include "QuorvaRestAPI.h"
 
+#include <QtCore/QTimer>
 #include <QtGui/QDesktopServices>
 #include <QtQml/QQmlEngine>
+#include <QtQuick/QQuickWindow>
+
+#include <utility>
 
 namespace {
 constexpr QLatin1StringView kEarnFormat("Earn %1");
@@ -20,15 +24,26 @@ constexpr QLatin1StringView kAlertTitle("No Connection");
 // The leading blank belongs to this screen's message.
 constexpr QLatin1StringView kAlertMessage(" Please check your internet and try again.");
 constexpr QLatin1StringView kAlertAction("Ok");
-constexpr qreal kTwoColumnMinimumWidth = 600;
 
 const QString kAgeRanges[] = {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"),
                               QStringLiteral("4"), QStringLiteral("5")};
 } // namespace
 
 QVOffersViewController::QVOffersViewController(QQuickItem *parent)
-    : QQuickItem(parent), m_offers(new QVOffersListModel(this))
+    : QQuickItem(parent), m_offers(new QVOffersListModel(this)), m_loadingIndicatorDelay(new QTimer(this))
 {
+    connect(m_offers, &QVOffersListModel::countChanged, this, &QVOffersViewController::offerCountChanged);
+    m_loadingIndicatorDelay->setSingleShot(true);
+    m_loadingIndicatorDelay->setInterval(kLoadingIndicatorDelayMs);
+    connect(m_loadingIndicatorDelay, &QTimer::timeout, this, [this] {
+        m_showsLoadingIndicator = m_loadingOffers;
+        emit showsLoadingIndicatorChanged();
+    });
+}
+
+int QVOffersViewController::offerCount() const
+{
+    return m_offers->count();
 }
 
 QVOffersViewController::~QVOffersViewController() = default;
@@ -116,6 +131,12 @@ void QVOffersViewController::itemChange(ItemChange change, const ItemChangeData 
     // to the first request.
     if (change == ItemSceneChange && value.window && !m_loaded && isComponentComplete())
         viewDidLoad();
+    // Delegates the list builds ahead of need are built in the window's idle time rather
+    // than inside a frame.
+    if (change == ItemSceneChange && value.window) {
+        if (QQmlEngine *engine = qmlEngine(this); engine && !engine->incubationController())
+            engine->setIncubationController(value.window->incubationController());
+    }
 }
 
 void QVOffersViewController::viewDidLoad()
@@ -166,6 +187,13 @@ void QVOffersViewController::setLoadingOffers(bool loading)
         return;
     m_loadingOffers = loading;
     emit loadingOffersChanged();
+    if (loading) {
+        m_loadingIndicatorDelay->start();
+    } else {
+        m_loadingIndicatorDelay->stop();
+        if (std::exchange(m_showsLoadingIndicator, false))
+            emit showsLoadingIndicatorChanged();
+    }
     updateLoadFailed();
 }
 
@@ -238,10 +266,10 @@ void QVOffersViewController::updatePolish()
         m_noOffersLabel->setVisible(m_offers->count() == 0 && !m_loadingOffers);
 }
 
-void QVOffersViewController::configureCell(QVOfferUICollectionViewCell *cell, int row)
+bool QVOffersViewController::configureCell(QVOfferUICollectionViewCell *cell, int row)
 {
     if (!cell || row < 0 || row >= m_offers->count())
-        return;
+        return false;
     const QVOffer &offer = m_offers->at(row);
     cell->setOfferName(offer.offerName());
     cell->setOfferDescription(offer.offerDescription());
@@ -253,6 +281,7 @@ void QVOffersViewController::configureCell(QVOfferUICollectionViewCell *cell, in
     cell->setDelegate(this);
     if (row == m_offers->count() - 1 && m_moreOffersAvailable)
         loadMoreOffers();
+    return true;
 }
 
 void QVOffersViewController::onCreditsPressed(const QString &clickURL)

@@ -52,10 +52,14 @@ class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
     Q_PROPERTY(QQuickItem *supportBtn MEMBER m_supportBtn NOTIFY outletsChanged FINAL)
     Q_PROPERTY(QQuickItem *collectionView MEMBER m_collectionView NOTIFY outletsChanged FINAL)
     Q_PROPERTY(QQuickItem *noOffersLabel MEMBER m_noOffersLabel NOTIFY outletsChanged FINAL)
+    // The tablet popovers, built when first presented.
     Q_PROPERTY(QObject *filterPopover MEMBER m_filterPopover NOTIFY outletsChanged FINAL)
     Q_PROPERTY(QObject *supportPopover MEMBER m_supportPopover NOTIFY outletsChanged FINAL)
     Q_PROPERTY(QAbstractItemModel *offersModel READ offersModel CONSTANT FINAL)
     Q_PROPERTY(QSizeF cellSize READ cellSize NOTIFY cellSizeChanged FINAL)
+    Q_PROPERTY(int columns READ columns NOTIFY cellSizeChanged FINAL)
+    Q_PROPERTY(int offerCount READ offerCount NOTIFY offerCountChanged FINAL)
+    Q_PROPERTY(bool showsLoadingIndicator READ showsLoadingIndicator NOTIFY showsLoadingIndicatorChanged FINAL)
     Q_PROPERTY(qreal sectionInsetTop READ sectionInsetTop CONSTANT FINAL)
     Q_PROPERTY(qreal headerHeight READ headerHeight CONSTANT FINAL)
     Q_PROPERTY(qreal supportTop READ supportTop CONSTANT FINAL)
@@ -98,8 +102,16 @@ public:
     void setSubid4(const QString &value);
 
     // Cell size for a list of the given width: two columns above 600 points.
+    static constexpr qreal kTwoColumnMinimumWidth = 600;
     static QSizeF sizeForItem(qreal viewWidth);
     QSizeF cellSize() const { return sizeForItem(width()); }
+    // Offers side by side in a row of the list: two on a wide wall.
+    int columns() const { return width() > kTwoColumnMinimumWidth ? 2 : 1; }
+    int offerCount() const;
+    // Loading that takes a while shows an indicator; a quick page shows none, so the
+    // wall draws nothing it does not need while it waits.
+    bool showsLoadingIndicator() const { return m_showsLoadingIndicator; }
+    static constexpr int kLoadingIndicatorDelayMs = 400;
     static qreal sectionInsetTop() { return 5; }
     static qreal headerHeight() { return 80; }
     // The support centre's top edge on a phone, flush with the header's bottom.
@@ -137,8 +149,13 @@ public:
     void loadMoreOffers();
 
     void onCreditsPressed(const QString &clickURL) override;
-    void configureCell(QVOfferUICollectionViewCell *cell, int row) override;
+    bool configureCell(QVOfferUICollectionViewCell *cell, int row) override;
     void onSaveFiltersPressed(const std::optional<QVCategory> &category, const QVSort &sort) override;
+
+private slots:
+    void popoverOpened();
+    void popoverClosed();
+    void popoverCloseRequested();
 
 signals:
     void closePressed();
@@ -150,6 +167,8 @@ signals:
     void overlaysChanged();
     void overlayAnimatingChanged();
     void loadFailedChanged();
+    void offerCountChanged();
+    void showsLoadingIndicatorChanged();
 
 protected:
     void itemChange(ItemChange change, const ItemChangeData &value) override;
@@ -167,6 +186,7 @@ private:
     void setHeaderText(const QString &text);
     QString headerText() const;
     void showFailureAlert();
+    QObject *popover(QObject *&popover, const char *typeName, const char *objectName);
     void presentInPopover(QObject *popover, QQuickItem *button, QQuickItem *panel);
     void dismissPopover(QObject *popover);
     // The filter panel opens with its own, bouncier spring; every other slide is the same.
@@ -189,6 +209,8 @@ private:
     bool m_lastPageFailed = false;
     bool m_loadFailed = false;
     bool m_profileFailed = false;
+    bool m_showsLoadingIndicator = false;
+    class QTimer *m_loadingIndicatorDelay = nullptr;
     std::optional<QVSort> m_sortParam;
     std::optional<QVCategory> m_categoryParam;
     QPointer<QVFiltersViewController> m_filterVC;

@@ -65,7 +65,7 @@ void QVOffersViewController::onFilterPressed()
         m_filterVC = panel;
     }
     if (QVDevice::isTablet()) {
-        presentInPopover(m_filterPopover, m_filterBtn, m_filterVC);
+        presentInPopover(popover(m_filterPopover, "QVPopover", "filterPopover"), m_filterBtn, m_filterVC);
         return;
     }
     if (m_isFiltersViewOpen) {
@@ -193,7 +193,7 @@ void QVOffersViewController::onSupportPressed()
         m_supportVC = support;
     }
     if (QVDevice::isTablet()) {
-        presentInPopover(m_supportPopover, m_supportBtn, m_supportVC);
+        presentInPopover(popover(m_supportPopover, "QVSupportPopover", "supportPopover"), m_supportBtn, m_supportVC);
         return;
     }
     if (m_isSupportViewOpen) {
@@ -215,6 +215,40 @@ void QVOffersViewController::closeSupportView()
     if (m_supportVC && m_supportVC->parentItem() == this)
         slide(m_supportVC, "x", listWidth(), Slide::Other, true);
     setPhoneOverlayOpen(m_isSupportViewOpen, false);
+}
+
+QObject *QVOffersViewController::popover(QObject *&popover, const char *typeName, const char *objectName)
+{
+    // Built on first use: a phone never needs one, and the wall starts faster without.
+    if (popover)
+        return popover;
+    popover = QVComponentFactory::create(qmlEngine(this), QLatin1StringView(typeName),
+                                         {{QStringLiteral("parent"), QVariant::fromValue(static_cast<QQuickItem *>(this))}});
+    if (!popover)
+        return nullptr;
+    popover->setParent(this);
+    popover->setObjectName(QLatin1StringView(objectName));
+    connect(popover, SIGNAL(opened()), this, SLOT(popoverOpened()));
+    connect(popover, SIGNAL(closed()), this, SLOT(popoverClosed()));
+    if (popover->metaObject()->indexOfSignal("closeRequested()") >= 0)
+        connect(popover, SIGNAL(closeRequested()), this, SLOT(popoverCloseRequested()));
+    emit outletsChanged();
+    return popover;
+}
+
+void QVOffersViewController::popoverOpened()
+{
+    popoverDidPresent(sender());
+}
+
+void QVOffersViewController::popoverClosed()
+{
+    popoverDidDismiss(sender());
+}
+
+void QVOffersViewController::popoverCloseRequested()
+{
+    dismissPopover(sender());
 }
 
 void QVOffersViewController::presentInPopover(QObject *popover, QQuickItem *button, QQuickItem *panel)
@@ -298,6 +332,7 @@ void QVOffersViewController::geometryChange(const QRectF &newGeometry, const QRe
     if (newGeometry.size() == oldGeometry.size())
         return;
     emit cellSizeChanged();
+    m_offers->setColumns(columns());
     layoutFilterPanel();
     layoutSupportPanel();
     // A size transition (rotation) takes a presented popover away.

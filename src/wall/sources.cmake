@@ -34,12 +34,28 @@ set(QUORVA_QML_FILES
     resources/qml/QVFilterUICollectionViewHeader.qml
     resources/qml/QVAlert.qml
     resources/qml/QVBlurView.qml
-    resources/qml/HeaderButtonBackground.qml
+    resources/qml/HeaderButton.qml
+    resources/qml/FlatButton.qml
+    resources/qml/Spinner.qml
     resources/qml/QVPopover.qml
+    resources/qml/QVSupportPopover.qml
 )
 set(QUORVA_RESOURCE_FILES
     resources/icons/close.svg
     resources/icons/filter.svg
     resources/icons/support.svg
     resources/icons/checkmark.svg
+    resources/icons/header-close.svg
+    resources/icons/header-filter.svg
+    resources/icons/header-support.svg
+    resources/icons/spinner.svg
+)
+
+# What the wall needs for its first screen.
+set(QUORVA_FIRST_SCREEN_QML_FILES
+    resources/qml/QVOffersViewController.qml
+    resources/qml/QVOfferUICollectionViewCell.qml
+    resources/qml/HeaderButton.qml
+    resources/qml/FlatButton.qml
+    resources/qml/Spinner.qml
 )

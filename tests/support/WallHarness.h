@@ -68,15 +68,18 @@ public:
 
     QQuickItem *list() const { return find(QStringLiteral("collectionView")); }
 
-    // Cells currently laid out in the list, in row order.
+    // Offer cells currently laid out in the list (rows hold one or two), in offer order.
     QList<QVOfferUICollectionViewCell *> cells() const
     {
         QList<QVOfferUICollectionViewCell *> result;
-        auto *content = list()->property("contentItem").value<QQuickItem *>();
-        for (QQuickItem *child : content->childItems()) {
-            auto *cell = qobject_cast<QVOfferUICollectionViewCell *>(child);
-            if (cell && cell->isVisible() && cell->row() >= 0)
+        QList<QQuickItem *> items{list()->property("contentItem").value<QQuickItem *>()};
+        for (qsizetype i = 0; i < items.size(); ++i) {
+            auto *cell = qobject_cast<QVOfferUICollectionViewCell *>(items[i]);
+            if (cell && cell->isVisible() && cell->parentItem()->isVisible() && cell->row() >= 0
+                && cell->row() < wall->offerCount())
                 result.append(cell);
+            else if (!cell)
+                items += items[i]->childItems();
         }
         std::sort(result.begin(), result.end(), [](auto *a, auto *b) { return a->row() < b->row(); });
         return result;

@@ -1,6 +1,7 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import QuorvaMedia
+
+// Plain Qt Quick: a cell loads no control style.
 
 QVOfferUICollectionViewCellBase {
     id: cell
@@ -55,7 +56,7 @@ QVOfferUICollectionViewCellBase {
             anchors.rightMargin: 12
             spacing: 4
 
-            Label {
+            Text {
                 id: name
                 objectName: "nameLabel"
                 width: parent.width
@@ -65,7 +66,7 @@ QVOfferUICollectionViewCellBase {
                 color: "#15151E"
                 elide: Text.ElideRight
             }
-            Label {
+            Text {
                 id: details
                 objectName: "descriptionLabel"
                 width: parent.width
@@ -79,32 +80,38 @@ QVOfferUICollectionViewCellBase {
             }
         }
 
-        Button {
+        Rectangle {
             id: credits
             objectName: "creditsBtn"
+            property string text: cell.payoutTitle
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             anchors.rightMargin: 12
-            implicitWidth: Math.max(76, contentItem.implicitWidth + 24)
-            implicitHeight: 38
-            text: cell.payoutTitle
+            width: Math.max(76, payout.implicitWidth + 24)
+            height: 38
+            radius: cell.cornerRadius
+            border.width: activeFocus ? 2 : cell.borderWidth
+            border.color: activeFocus ? "#115C31" : cell.borderColor
+            color: creditsTap.pressed ? "#1E8C4E" : "#22A35A"
+            activeFocusOnTab: true
+            Accessible.role: Accessible.Button
             Accessible.name: "Earn " + cell.payoutTitle + ": " + cell.offerName
-            Keys.onReturnPressed: clicked()
-            Keys.onEnterPressed: clicked()
-            onClicked: cell.onCreditsBtnPressed()
-            background: Rectangle {
-                radius: cell.cornerRadius
-                border.width: cell.borderWidth
-                border.color: cell.borderColor
-                color: credits.pressed ? "#1E8C4E" : "#22A35A"
-            }
-            contentItem: Label {
+            Accessible.onPressAction: cell.onCreditsBtnPressed()
+            Keys.onReturnPressed: cell.onCreditsBtnPressed()
+            Keys.onEnterPressed: cell.onCreditsBtnPressed()
+            Keys.onSpacePressed: cell.onCreditsBtnPressed()
+            Text {
+                id: payout
+                anchors.centerIn: parent
                 text: credits.text
                 font.pixelSize: 16
                 font.bold: true
                 color: "#FFFFFF"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
+            }
+            MouseArea {
+                id: creditsTap
+                anchors.fill: parent
+                onClicked: cell.onCreditsBtnPressed()
             }
         }
     }

@@ -1,7 +1,8 @@
 import QtQuick
-import QtQuick.Controls.Basic
 import QuorvaMedia
 
+// The wall's first screen is plain Qt Quick: no control style is loaded before the first
+// offers are on screen. Popovers and alerts are built when first needed.
 QVOffersViewControllerBase {
     id: root
 
@@ -12,8 +13,6 @@ QVOffersViewControllerBase {
     supportBtn: supportButton
     collectionView: list
     noOffersLabel: emptyLabel
-    filterPopover: popover
-    supportPopover: supportPopover
 
     clip: true
 
@@ -23,7 +22,9 @@ QVOffersViewControllerBase {
         color: QVColor.colorFromHex("#F2F2F2")
     }
 
-    GridView {
+    // Rows of one offer, or two side by side on a wide wall. Rows leaving the screen are
+    // reused for rows coming in; none are built ahead of need.
+    ListView {
         id: list
         objectName: "collectionView"
         anchors.top: header.bottom
@@ -31,48 +32,76 @@ QVOffersViewControllerBase {
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         model: root.offersModel
-        cellWidth: root.cellSize.width
-        cellHeight: root.cellSize.height
         topMargin: root.sectionInsetTop
         bottomMargin: 8
+        cacheBuffer: 0
         reuseItems: true
-        delegate: QVOfferUICollectionViewCell {
+        boundsBehavior: Flickable.StopAtBounds
+        delegate: Item {
+            id: offersRow
             required property int index
-            width: GridView.view.cellWidth
-            height: GridView.view.cellHeight
-            row: index
-            dataSource: root
-            GridView.onReused: reload()
+            required property int generation
+            width: ListView.view.width
+            height: root.cellSize.height
+            QVOfferUICollectionViewCell {
+                width: root.cellSize.width
+                height: parent.height
+                row: offersRow.index * root.columns
+                generation: offersRow.generation
+                dataSource: root
+            }
+            Loader {
+                x: root.cellSize.width
+                width: root.cellSize.width
+                height: parent.height
+                active: root.columns > 1
+                sourceComponent: QVOfferUICollectionViewCell {
+                    row: offersRow.index * root.columns + 1
+                    generation: offersRow.generation
+                    dataSource: root
+                    visible: row < root.offerCount
+                }
+            }
         }
         footer: Item {
             width: list.width
-            height: root.loadingOffers && list.count > 0 ? 64 : 0
-            BusyIndicator {
+            height: root.showsLoadingIndicator && list.count > 0 ? 64 : 0
+            Spinner {
                 anchors.centerIn: parent
-                running: parent.height > 0
-                visible: running
+                visible: parent.height > 0
             }
         }
-        ScrollIndicator.vertical: ScrollIndicator {}
+    }
+
+    // A thin bar showing where the list is, while it moves.
+    Rectangle {
+        anchors.right: list.right
+        anchors.rightMargin: 2
+        y: list.y + list.visibleArea.yPosition * list.height
+        width: 3
+        height: list.visibleArea.heightRatio * list.height
+        radius: 1.5
+        color: "#80000000"
+        visible: list.moving && list.visibleArea.heightRatio < 1
     }
 
     Column {
         objectName: "loadingIndicator"
         anchors.centerIn: list
         spacing: 12
-        visible: root.loadingOffers && list.count === 0
-        BusyIndicator {
+        visible: root.showsLoadingIndicator && list.count === 0
+        Spinner {
             anchors.horizontalCenter: parent.horizontalCenter
-            running: parent.visible
+            visible: parent.visible
         }
-        Label {
+        Text {
             text: "Loading offers…"
             font.pixelSize: 15
             color: "#5F5F6E"
         }
     }
 
-    Label {
+    Text {
         id: emptyLabel
         objectName: "noOffersLabel"
         anchors.centerIn: list
@@ -83,7 +112,7 @@ QVOffersViewControllerBase {
         font.bold: true
         color: "#2B2B36"
     }
-    Label {
+    Text {
         anchors.top: emptyLabel.bottom
         anchors.topMargin: 8
         anchors.horizontalCenter: emptyLabel.horizontalCenter
@@ -104,7 +133,7 @@ QVOffersViewControllerBase {
         width: Math.min(list.width - 48, 300)
         spacing: 8
         visible: root.loadFailed
-        Label {
+        Text {
             width: parent.width
             text: "Couldn't load offers"
             font.pixelSize: 19
@@ -112,7 +141,7 @@ QVOffersViewControllerBase {
             color: "#2B2B36"
             horizontalAlignment: Text.AlignHCenter
         }
-        Label {
+        Text {
             width: parent.width
             text: "Check your connection and try again."
             font.pixelSize: 15
@@ -121,27 +150,12 @@ QVOffersViewControllerBase {
             horizontalAlignment: Text.AlignHCenter
         }
         Item { width: 1; height: 8 }
-        Button {
-            id: retryButton
+        FlatButton {
             objectName: "retryButton"
             anchors.horizontalCenter: parent.horizontalCenter
             text: "Try again"
-            implicitWidth: 160
-            implicitHeight: 44
-            onClicked: root.onRetryPressed()
             Accessible.name: "Try loading the offers again"
-            background: Rectangle {
-                radius: 6
-                color: retryButton.pressed ? "#2D3BB0" : "#3F51D8"
-            }
-            contentItem: Label {
-                text: retryButton.text
-                font.pixelSize: 16
-                font.bold: true
-                color: "#FFFFFF"
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-            }
+            onClicked: root.onRetryPressed()
         }
     }
 
@@ -164,22 +178,18 @@ QVOffersViewControllerBase {
             onClicked: root.headerTapped()
         }
 
-        ToolButton {
+        HeaderButton {
             id: closeButton
             objectName: "closeBtn"
             anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
             anchors.leftMargin: 6
-            icon.source: "icons/close.svg"
-            icon.color: "#FFFFFF"
-            icon.width: 24
-            icon.height: 24
-            background: HeaderButtonBackground { down: closeButton.down }
-            Accessible.name: "Close the offers"
+            icon: "icons/header-close.svg"
+            accessibleName: "Close the offers"
             onClicked: root.onClosePressed()
         }
 
-        Label {
+        Text {
             id: title
             objectName: "headerTitle"
             anchors.centerIn: parent
@@ -194,87 +204,19 @@ QVOffersViewControllerBase {
             anchors.right: parent.right
             anchors.verticalCenter: parent.verticalCenter
             anchors.rightMargin: 6
-            ToolButton {
+            HeaderButton {
                 id: supportButton
                 objectName: "supportBtn"
-                icon.source: "icons/support.svg"
-                icon.color: "#FFFFFF"
-                icon.width: 24
-                icon.height: 24
-                background: HeaderButtonBackground { down: supportButton.down }
-                Accessible.name: "Help and support"
+                icon: "icons/header-support.svg"
+                accessibleName: "Help and support"
                 onClicked: root.onSupportPressed()
             }
-            ToolButton {
+            HeaderButton {
                 id: filterButton
                 objectName: "filterBtn"
-                icon.source: "icons/filter.svg"
-                icon.color: "#FFFFFF"
-                icon.width: 24
-                icon.height: 24
-                background: HeaderButtonBackground { down: filterButton.down }
-                Accessible.name: "Sort and filter offers"
+                icon: "icons/header-filter.svg"
+                accessibleName: "Sort and filter offers"
                 onClicked: root.onFilterPressed()
-            }
-        }
-    }
-
-    QVPopover {
-        id: popover
-        objectName: "filterPopover"
-        onOpened: root.popoverDidPresent(popover)
-        onClosed: root.popoverDidDismiss(popover)
-    }
-
-    // The support centre on a tablet. A tap outside does not close it, so it carries
-    // its own close button.
-    QVPopover {
-        id: supportPopover
-        objectName: "supportPopover"
-        host: supportHost
-        onOpened: root.popoverDidPresent(supportPopover)
-        onClosed: root.popoverDidDismiss(supportPopover)
-        contentItem: Item {
-            clip: true
-            Label {
-                anchors.verticalCenter: supportClose.verticalCenter
-                anchors.horizontalCenter: parent.horizontalCenter
-                text: "Corvel Support"
-                font.pixelSize: 16
-                font.bold: true
-                color: "#15151E"
-            }
-            ToolButton {
-                id: supportClose
-                objectName: "supportCloseBtn"
-                anchors.right: parent.right
-                anchors.top: parent.top
-                anchors.margins: 4
-                icon.source: "icons/close.svg"
-                icon.color: "#5F5F6E"
-                icon.width: 20
-                icon.height: 20
-                background: Rectangle {
-                    implicitWidth: 36
-                    implicitHeight: 36
-                    radius: width / 2
-                    color: supportClose.down ? "#E6E6EE" : "transparent"
-                    border.width: supportClose.visualFocus ? 2 : 0
-                    border.color: "#3F51D8"
-                }
-                Accessible.name: "Close support"
-                Keys.onReturnPressed: clicked()
-                Keys.onEnterPressed: clicked()
-                onClicked: root.closeSupportPopover()
-            }
-            Item {
-                id: supportHost
-                objectName: "supportPopoverContent"
-                anchors.top: supportClose.bottom
-                anchors.left: parent.left
-                anchors.right: parent.right
-                anchors.bottom: parent.bottom
-                clip: true
             }
         }
     }

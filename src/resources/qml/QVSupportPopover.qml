@@ -1,0 +1,55 @@
+import QtQuick
+import QtQuick.Controls.Basic
+
+// The support centre on a tablet. A tap outside does not close it, so it carries its
+// own close button.
+QVPopover {
+    id: popover
+
+    signal closeRequested()
+
+    host: supportHost
+    contentItem: Item {
+        clip: true
+        Label {
+            anchors.verticalCenter: supportClose.verticalCenter
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: "Corvel Support"
+            font.pixelSize: 16
+            font.bold: true
+            color: "#15151E"
+        }
+        ToolButton {
+            id: supportClose
+            objectName: "supportCloseBtn"
+            anchors.right: parent.right
+            anchors.top: parent.top
+            anchors.margins: 4
+            icon.source: "icons/close.svg"
+            icon.color: "#5F5F6E"
+            icon.width: 20
+            icon.height: 20
+            background: Rectangle {
+                implicitWidth: 36
+                implicitHeight: 36
+                radius: width / 2
+                color: supportClose.down ? "#E6E6EE" : "transparent"
+                border.width: supportClose.visualFocus ? 2 : 0
+                border.color: "#3F51D8"
+            }
+            Accessible.name: "Close support"
+            Keys.onReturnPressed: clicked()
+            Keys.onEnterPressed: clicked()
+            onClicked: popover.closeRequested()
+        }
+        Item {
+            id: supportHost
+            objectName: "supportPopoverContent"
+            anchors.top: supportClose.bottom
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            clip: true
+        }
+    }
+}

@@ -1,0 +1,16 @@
+import QtQuick
+
+// A turning ring while something loads; the turning runs on the render thread.
+Image {
+    width: 36
+    height: 36
+    source: "icons/spinner.svg"
+    sourceSize: Qt.size(72, 72)
+    RotationAnimator on rotation {
+        from: 0
+        to: 360
+        duration: 900
+        loops: Animation.Infinite
+        running: parent.visible
+    }
+}

@@ -4,6 +4,7 @@
 // first bare request of a process are each measured in fresh child processes. Run under
 // a display (xvfb-run).
 #include "BenchSupport.h"
+#include "QVComponentFactory.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -48,14 +49,25 @@ double timeFirstCell(QQuickWindow &window)
     timer.start();
     QVOffersViewController *wall = QVOffersViewController::newOffersWallForPublisherId(
         QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"), nullptr);
+    const double created = double(timer.nsecsElapsed()) / 1e6;
     wall->setParentItem(window.contentItem());
     wall->setSize(window.size());
+    const double requested = double(timer.nsecsElapsed()) / 1e6;
+    double arrived = -1;
+    QObject::connect(wall, &QVOffersViewController::offerCountChanged, wall, [&] {
+        if (arrived < 0)
+            arrived = double(timer.nsecsElapsed()) / 1e6;
+    });
     bool shown = false;
     while (!shown) {
         bench::waitForFrame(&window);
         shown = hasFilledCell(wall);
     }
     const double ms = double(timer.nsecsElapsed()) / 1e6;
+    if (qEnvironmentVariableIsSet("QUORVA_BENCH_PHASES"))
+        std::fprintf(stderr, "[monotonic end %.6f s] created %.1f, entered window %.1f, offers arrived %.1f, cell on screen %.1f ms\n",
+                     double(std::chrono::steady_clock::now().time_since_epoch().count()) / 1e9, created,
+                     requested, arrived, ms);
     delete wall;
     bench::waitForFrame(&window);
     return ms;
@@ -101,6 +113,12 @@ int runChild(const QString &mode, const QString &base, const QString &caPath)
     auto window = shownWindow();
     double ms = 0;
     if (mode == QLatin1String("--cold-wall")) {
+        if (qEnvironmentVariableIsSet("QUORVA_BENCH_ENGINE_FIRST")) {
+            QElapsedTimer t;
+            t.start();
+            QVComponentFactory::sharedEngine();
+            std::fprintf(stderr, "engine %.1f ms\n", double(t.nsecsElapsed()) / 1e6);
+        }
         QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(base);
         QuorvaRestAPI::sharedInstance()->addCaCertificates(QSslCertificate::fromPath(caPath));
         ms = timeFirstCell(*window);
@@ -117,6 +135,7 @@ std::vector<double> coldRuns(const QString &mode, const SandboxProcess &sandbox,
     std::vector<double> runs;
     for (int i = 0; i < kColdRuns; ++i) {
         QProcess child;
+        child.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         child.start(QCoreApplication::applicationFilePath(), {mode, sandbox.baseAddress(), caPath});
         if (child.waitForFinished(60000) && child.exitCode() == 0)
             runs.push_back(child.readAllStandardOutput().trimmed().toDouble());

@@ -72,6 +72,7 @@ int main(int argc, char **argv)
     // Cells are told apart by identity: a new one was created, one showing another row
     // than before was reused.
     QSet<QVOfferUICollectionViewCell *> known;
+    QObject tracking; // ends the watching before the counters go; cells may outlive them
     int created = 0;
     int reused = 0;
     int alive = 0;
@@ -83,8 +84,8 @@ int main(int argc, char **argv)
             known.insert(cell);
             ++created;
             ++alive;
-            QObject::connect(cell, &QVOfferUICollectionViewCell::rowChanged, [&reused] { ++reused; });
-            QObject::connect(cell, &QObject::destroyed, [&, cell] {
+            QObject::connect(cell, &QVOfferUICollectionViewCell::rowChanged, &tracking, [&reused] { ++reused; });
+            QObject::connect(cell, &QObject::destroyed, &tracking, [&, cell] {
                 known.remove(cell);
                 --alive;
             });

@@ -38,6 +38,9 @@ private slots:
     void failedFirstPageOffersTryAgain();
     void profileTitleAndItsSilentFailure();
     void twoColumnsInAWideWindow();
+    void scrolledCellsAreReusedAndShowTheirOffers_data();
+    void scrolledCellsAreReusedAndShowTheirOffers();
+    void closedWallLeavesNoCellsBehind();
     void cellShowsOfferAndPayout();
     void payoutPressOpensClickAddress();
     void targetingSetters_data();
@@ -277,6 +280,72 @@ void tst_QVOffersViewController::twoColumnsInAWideWindow()
     QCOMPARE(place(harness.cells()[1]).y(), place(harness.cells()[0]).y());
     QCOMPARE(harness.cells()[0]->size(), QSizeF(300.5, 150));
     QCOMPARE(harness.cells()[2]->row(), 2);
+}
+
+void tst_QVOffersViewController::scrolledCellsAreReusedAndShowTheirOffers_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("phone, one column") << QSize(390, 780);
+    QTest::newRow("tablet, two columns") << QSize(1024, 768);
+}
+
+void tst_QVOffersViewController::scrolledCellsAreReusedAndShowTheirOffers()
+{
+    // Rows leaving the screen come back as the rows entering it, each showing its own
+    // offer; no cell is built ahead of need.
+    QFETCH(QSize, size);
+    m_service.setTotalOffers(90);
+    WallHarness harness(size);
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    const int perRow = harness.wall->columns();
+    const qreal rowHeight = harness.wall->cellSize().height();
+    const int rowsOnScreen = int(std::ceil(harness.list()->height() / rowHeight)) + 1;
+    QSet<QVOfferUICollectionViewCell *> seen;
+    // Empty when every visible cell shows its own offer and no more are built than fit.
+    auto checkVisibleCells = [&]() -> QString {
+        const QList<QVOfferUICollectionViewCell *> cells = harness.cells();
+        for (QVOfferUICollectionViewCell *cell : cells) {
+            seen.insert(cell);
+            const QString expected = QStringLiteral("Offer %1").arg(cell->row());
+            const QString shown = cell->findChild<QQuickItem *>(QStringLiteral("nameLabel"))->property("text").toString();
+            if (shown != expected)
+                return QStringLiteral("cell of %1 shows %2").arg(expected, shown);
+        }
+        // Besides the rows on screen the list keeps at most two: one laid out past an
+        // edge, one waiting to be reused.
+        if (cells.size() > (rowsOnScreen + 2) * perRow)
+            return QStringLiteral("%1 cells for %2 rows").arg(cells.size()).arg(rowsOnScreen);
+        return {};
+    };
+    while (harness.wall->offersList().size() < 90 || !harness.list()->property("atYEnd").toBool()) {
+        harness.list()->setProperty("contentY", harness.list()->property("contentY").toReal() + rowHeight * 0.75);
+        QVERIFY(harness.nextFrame());
+        const QString problem = checkVisibleCells();
+        QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    }
+    QCOMPARE(harness.cells().last()->row(), 89);
+    QVERIFY2(seen.size() <= (rowsOnScreen + 4) * perRow, qPrintable(QString::number(seen.size())));
+}
+
+void tst_QVOffersViewController::closedWallLeavesNoCellsBehind()
+{
+    // The host deletes the wall and keeps its window: no cell, reused or waiting to be,
+    // may outlive the wall.
+    auto harness = std::make_unique<WallHarness>();
+    QVERIFY(harness->show());
+    QTRY_COMPARE(harness->wall->offersList().size(), 30);
+    QList<QPointer<QVOfferUICollectionViewCell>> cells;
+    for (int step = 0; step < 8; ++step) {
+        harness->list()->setProperty("contentY", harness->list()->property("contentY").toReal() + 100);
+        QVERIFY(harness->nextFrame());
+        for (QVOfferUICollectionViewCell *cell : harness->cells())
+            cells.append(cell);
+    }
+    delete std::exchange(harness->wall, nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QTRY_VERIFY(std::all_of(cells.cbegin(), cells.cend(), [](const auto &cell) { return cell.isNull(); }));
+    QVERIFY(harness->window->contentItem()->childItems().isEmpty());
 }
 
 void tst_QVOffersViewController::cellShowsOfferAndPayout()

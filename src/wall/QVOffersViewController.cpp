@@ -46,7 +46,16 @@ int QVOffersViewController::offerCount() const
     return m_offers->count();
 }
 
-QVOffersViewController::~QVOffersViewController() = default;
+QVOffersViewController::~QVOffersViewController()
+{
+    // A popover closes as it goes; the wall is past hearing about it.
+    for (QObject *popover : {m_filterPopover, m_supportPopover}) {
+        if (popover) {
+            popover->disconnect(this);
+            delete popover;
+        }
+    }
+}
 
 QVOffersViewController *QVOffersViewController::newOffersWallForPublisherId(const QString &pubId,
                                                                            const QString &corvelId,

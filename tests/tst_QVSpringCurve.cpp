@@ -8,7 +8,6 @@ class tst_QVSpringCurve : public QObject
     Q_OBJECT
 
 private slots:
-    void parameters();
     void endsAreExact_data();
     void endsAreExact();
     void bouncyOpeningOvershootsOnce();
@@ -16,18 +15,6 @@ private slots:
     void initialVelocitySetsTheStartingSlope_data();
     void initialVelocitySetsTheStartingSlope();
 };
-
-void tst_QVSpringCurve::parameters()
-{
-    const auto open = QVSpringCurve::parameters(QVSpringCurve::Motion::FilterPanelOpen);
-    QCOMPARE(open.durationSeconds, 1.0);
-    QCOMPARE(open.dampingRatio, 0.55);
-    QCOMPARE(open.initialVelocity, 0.1);
-    const auto slide = QVSpringCurve::parameters(QVSpringCurve::Motion::PanelSlide);
-    QCOMPARE(slide.durationSeconds, 0.5);
-    QCOMPARE(slide.dampingRatio, 1.0);
-    QCOMPARE(slide.initialVelocity, 0.5);
-}
 
 void tst_QVSpringCurve::endsAreExact_data()
 {

@@ -43,7 +43,6 @@ private slots:
     void cleanup() { finishPendingRequests(); }
 
     void statesFollowTheChoosers();
-    void shortFormStillScrolls();
     void validationOrder_data();
     void validationOrder();
     void emailPattern_data();
@@ -169,20 +168,6 @@ void tst_QVEmailViewController::statesFollowTheChoosers()
     QVERIFY(!inForm(form, form->offerDateCompletedView()) && !inForm(form, form->enterCommentView()));
 }
 
-void tst_QVEmailViewController::shortFormStillScrolls()
-{
-    SupportHarness harness({390, 780});
-    QVERIFY(harness.show());
-    QVEmailViewController *form = harness.openForm();
-    QVERIFY(form);
-    qreal stacked = 0;
-    for (QQuickItem *piece : form->contentView()->childItems())
-        stacked += piece->height();
-    QVERIFY2(stacked < form->height(), "the starting form is shorter than the screen");
-    // The hidden send button counts, and the content is always ten points taller.
-    QCOMPARE(form->scrollView()->property("contentHeight").toReal(), form->height() + 10);
-    QVERIFY(stacked > form->enterInfoView()->height() + form->chooseSubjectView()->height());
-}
 
 void tst_QVEmailViewController::validationOrder_data()
 {

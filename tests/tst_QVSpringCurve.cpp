@@ -8,30 +8,13 @@ class tst_QVSpringCurve : public QObject
     Q_OBJECT
 
 private slots:
-    void endsAreExact_data();
-    void endsAreExact();
     void bouncyOpeningOvershootsOnce();
     void criticallyDampedSlideNeverOvershoots();
     void initialVelocitySetsTheStartingSlope_data();
     void initialVelocitySetsTheStartingSlope();
 };
 
-void tst_QVSpringCurve::endsAreExact_data()
-{
-    QTest::addColumn<int>("motion");
-    QTest::newRow("filter panel open") << int(QVSpringCurve::Motion::FilterPanelOpen);
-    QTest::newRow("panel slide") << int(QVSpringCurve::Motion::PanelSlide);
-}
 
-void tst_QVSpringCurve::endsAreExact()
-{
-    QFETCH(int, motion);
-    const QEasingCurve curve = QVSpringCurve::curve(QVSpringCurve::Motion(motion));
-    QCOMPARE(curve.valueForProgress(0.0), 0.0);
-    QCOMPARE(curve.valueForProgress(1.0), 1.0);
-    // Settled well before the end: the last tenth moves less than half a percent.
-    QVERIFY(qAbs(curve.valueForProgress(0.9) - 1.0) < 0.005);
-}
 
 void tst_QVSpringCurve::bouncyOpeningOvershootsOnce()
 {

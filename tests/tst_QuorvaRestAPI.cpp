@@ -30,8 +30,6 @@ private slots:
     void init();
 
     void versionSymbols();
-    void urlString_data();
-    void urlString();
     void userAgentHeaderIsSentOnEveryRequest();
     void dateString_data();
     void dateString();
@@ -40,10 +38,8 @@ private slots:
     void offersQuery();
     void offersMoreFlagFollowsStatus_data();
     void offersMoreFlagFollowsStatus();
-    void offersRecordsFromReply();
     void addressesAndSchemes();
 
-    void profileStatusRules();
     void profileNotFoundIsSilent();
     void historyNoContentLogsAndSucceeds();
     void ticketBodyAndStatus_data();
@@ -150,32 +146,7 @@ void tst_QuorvaRestAPI::versionSymbols()
     QCOMPARE(QuorvaMediaVersionNumber, 1.1);
 }
 
-void tst_QuorvaRestAPI::urlString_data()
-{
-    QTest::addColumn<bool>("hasParams");
-    QTest::addColumn<QVariantMap>("params");
-    QTest::addColumn<QString>("expected");
-    const QString base = QStringLiteral("https://h/p.json");
-    QTest::newRow("absent") << false << QVariantMap() << base;
-    QTest::newRow("empty") << true << QVariantMap() << base + u'?';
-    QTest::newRow("one pair") << true << QVariantMap{{QStringLiteral("k"), QStringLiteral("v")}} << base + QStringLiteral("?k=v");
-    QTest::newRow("several")
-        << true << QVariantMap{{QStringLiteral("a"), QStringLiteral("1")}, {QStringLiteral("b"), QStringLiteral("2")}}
-        << base + QStringLiteral("?a=1&b=2");
-    QTest::newRow("booleans")
-        << true << QVariantMap{{QStringLiteral("t"), true}, {QStringLiteral("f"), false}} << base + QStringLiteral("?f=0&t=1");
-    QTest::newRow("unescaped") << true << QVariantMap{{QStringLiteral("s"), QStringLiteral("a b&c")}}
-                               << base + QStringLiteral("?s=a b&c");
-}
 
-void tst_QuorvaRestAPI::urlString()
-{
-    QFETCH(bool, hasParams);
-    QFETCH(QVariantMap, params);
-    QFETCH(QString, expected);
-    const auto optional = hasParams ? std::optional(params) : std::nullopt;
-    QCOMPARE(QuorvaRestAPI::sharedInstance()->urlString(QStringLiteral("https://h/p.json"), optional), expected);
-}
 
 void tst_QuorvaRestAPI::userAgentHeaderIsSentOnEveryRequest()
 {
@@ -335,30 +306,6 @@ void tst_QuorvaRestAPI::offersMoreFlagFollowsStatus()
     QCOMPARE(receivedMore, more);
 }
 
-void tst_QuorvaRestAPI::offersRecordsFromReply()
-{
-    m_server.respond(200, R"({"offers":[
-        {"offer_id":"o1","name":"Dragon","description":"Reach level 5","currency_count":1500,
-         "image_url":"//cdn.example/p/1.png","click_url":"https://click/1"},
-        {"offer_id":42,"name":"NoPicture","currency_count":"250"}]})");
-    QList<QVOffer> offers;
-    CallbackProbe probe;
-    QuorvaRestAPI::sharedInstance()->fetchOffers(0, {}, {}, false,
-        [&](const QList<QVOffer> &list, bool) { ++probe.successes; offers = list; }, probe.failure());
-    QTRY_VERIFY(probe.finished());
-    QCOMPARE(offers.size(), 2);
-    QCOMPARE(offers[0].offerId(), QStringLiteral("o1"));
-    QCOMPARE(offers[0].offerName(), QStringLiteral("Dragon"));
-    QCOMPARE(offers[0].offerDescription(), QStringLiteral("Reach level 5"));
-    QCOMPARE(offers[0].currencyCount(), QStringLiteral("1500"));
-    QCOMPARE(offers[0].imageURL(), QStringLiteral("https://cdn.example/p/1.png"));
-    QCOMPARE(offers[0].clickURL(), QStringLiteral("https://click/1"));
-    QCOMPARE(offers[1].offerId(), QStringLiteral("42"));
-    QCOMPARE(offers[1].imageURL(), QStringLiteral("https:(null)"));
-    // A string where a number belongs counts as absent.
-    QVERIFY(offers[1].currencyCount().isNull());
-    QVERIFY(offers[1].offerDescription().isNull());
-}
 
 void tst_QuorvaRestAPI::addressesAndSchemes()
 {
@@ -384,24 +331,6 @@ void tst_QuorvaRestAPI::addressesAndSchemes()
     QCOMPARE(probe.failures, 0);
 }
 
-void tst_QuorvaRestAPI::profileStatusRules()
-{
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    m_server.respond(200, R"({"profile":{"settings":{"currency":{"visible":true,"name":"Gems"}}}})");
-    QVProfile profile;
-    CallbackProbe probe;
-    api->fetchProfile([&](const QVProfile &p) { ++probe.successes; profile = p; }, probe.failure());
-    QTRY_COMPARE(probe.successes, 1);
-    QVERIFY(profile.showCurrency());
-    QCOMPARE(profile.currencyName(), QStringLiteral("Gems"));
-
-    m_server.respond(500, R"({"error":"down"})");
-    api->fetchProfile([&](const QVProfile &p) { ++probe.successes; profile = p; }, probe.failure());
-    QTRY_COMPARE(probe.successes, 2);
-    QVERIFY(!profile.showCurrency());
-    QVERIFY(profile.currencyName().isNull());
-    QCOMPARE(probe.failures, 0);
-}
 
 void tst_QuorvaRestAPI::profileNotFoundIsSilent()
 {

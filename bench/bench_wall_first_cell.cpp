@@ -4,7 +4,6 @@
 // first bare request of a process are each measured in fresh child processes. Run under
 // a display (xvfb-run).
 #include "BenchSupport.h"
-#include "QVComponentFactory.h"
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -113,12 +112,6 @@ int runChild(const QString &mode, const QString &base, const QString &caPath)
     auto window = shownWindow();
     double ms = 0;
     if (mode == QLatin1String("--cold-wall")) {
-        if (qEnvironmentVariableIsSet("QUORVA_BENCH_ENGINE_FIRST")) {
-            QElapsedTimer t;
-            t.start();
-            QVComponentFactory::sharedEngine();
-            std::fprintf(stderr, "engine %.1f ms\n", double(t.nsecsElapsed()) / 1e6);
-        }
         QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(base);
         QuorvaRestAPI::sharedInstance()->addCaCertificates(QSslCertificate::fromPath(caPath));
         ms = timeFirstCell(*window);

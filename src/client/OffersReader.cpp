@@ -15,6 +15,11 @@ constexpr std::array<std::string_view, FieldCount> kFieldKeys{"offer_id",       
 constexpr std::string_view kOffersKey("offers");
 constexpr int kMaxDepth = 256;
 
+// The service sends scheme-relative picture addresses; a missing one still yields an
+// address (that loads nothing), as the wall expects one per offer.
+constexpr QLatin1StringView kImageScheme("https:");
+constexpr QLatin1StringView kAbsentText("(null)");
+
 constexpr bool isDigit(char c) { return c >= '0' && c <= '9'; }
 
 int hexValue(char c)
@@ -365,6 +370,25 @@ private:
     const char *m_end;
 };
 } // namespace
+
+QVOffer offerFromFields(OfferFields &&fields)
+{
+    QVOffer offer;
+    offer.setOfferId(std::move(fields.offerId));
+    offer.setOfferName(std::move(fields.name));
+    offer.setOfferDescription(std::move(fields.description));
+    QString image;
+    image.reserve(kImageScheme.size() + (fields.imageUrl.isNull() ? kAbsentText.size() : fields.imageUrl.size()));
+    image += kImageScheme;
+    if (fields.imageUrl.isNull())
+        image += kAbsentText;
+    else
+        image += fields.imageUrl;
+    offer.setImageURL(image);
+    offer.setClickURL(std::move(fields.clickUrl));
+    offer.setCurrencyCount(std::move(fields.currencyCount));
+    return offer;
+}
 
 std::optional<QList<QVOffer>> readOffersDirectly(const QByteArray &body)
 {

@@ -28,11 +28,6 @@ constexpr QLatin1StringView currencyAdjustment("currency_adjustment");
 constexpr QLatin1StringView ticketId("ticket_id");
 } // namespace key
 
-// The service sends scheme-relative picture addresses; a missing one still yields an
-// address (that loads nothing), as the wall expects one per offer.
-constexpr QLatin1StringView kImageScheme("https:");
-constexpr QLatin1StringView kAbsentText("(null)");
-
 QJsonValue topLevel(const QByteArray &body)
 {
     const QJsonDocument document = QJsonDocument::fromJson(body);
@@ -56,25 +51,6 @@ QList<Record> records(const QJsonArray &list, Build build)
     return result;
 }
 } // namespace
-
-QVOffer offerFromFields(OfferFields &&fields)
-{
-    QVOffer offer;
-    offer.setOfferId(std::move(fields.offerId));
-    offer.setOfferName(std::move(fields.name));
-    offer.setOfferDescription(std::move(fields.description));
-    QString image;
-    image.reserve(kImageScheme.size() + (fields.imageUrl.isNull() ? kAbsentText.size() : fields.imageUrl.size()));
-    image += kImageScheme;
-    if (fields.imageUrl.isNull())
-        image += kAbsentText;
-    else
-        image += fields.imageUrl;
-    offer.setImageURL(image);
-    offer.setClickURL(std::move(fields.clickUrl));
-    offer.setCurrencyCount(std::move(fields.currencyCount));
-    return offer;
-}
 
 QList<QVOffer> parseOffersGenerally(const QByteArray &body)
 {

@@ -51,11 +51,3 @@ set(QUORVA_RESOURCE_FILES
     resources/icons/spinner.svg
 )
 
-# What the wall needs for its first screen.
-set(QUORVA_FIRST_SCREEN_QML_FILES
-    resources/qml/QVOffersViewController.qml
-    resources/qml/QVOfferUICollectionViewCell.qml
-    resources/qml/HeaderButton.qml
-    resources/qml/FlatButton.qml
-    resources/qml/Spinner.qml
-)

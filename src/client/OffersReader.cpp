@@ -10,9 +10,14 @@ namespace quorva::detail {
 
 namespace {
 enum Field { OfferId, Name, Description, CurrencyCount, ImageUrl, ClickUrl, FieldCount };
-constexpr std::array<std::string_view, FieldCount> kFieldKeys{"offer_id",       "name",      "description",
-                                                              "currency_count", "image_url", "click_url"};
-constexpr std::string_view kOffersKey("offers");
+constexpr std::string_view view(QLatin1StringView key)
+{
+    return {key.data(), std::size_t(key.size())};
+}
+constexpr std::array<std::string_view, FieldCount> kFieldKeys{
+    view(offerKey::offerId),       view(offerKey::name),     view(offerKey::description),
+    view(offerKey::currencyCount), view(offerKey::imageUrl), view(offerKey::clickUrl)};
+constexpr std::string_view kOffersKey = view(offerKey::offers);
 constexpr int kMaxDepth = 256;
 
 // The service sends scheme-relative picture addresses; a missing one still yields an

@@ -4,11 +4,23 @@
 #include "QVOffer.h"
 
 #include <QtCore/QByteArray>
+#include <QtCore/QLatin1StringView>
 #include <QtCore/QList>
 
 #include <optional>
 
 namespace quorva::detail {
+
+// The keys of an offers reply, which both of its readers look for.
+namespace offerKey {
+inline constexpr QLatin1StringView offers("offers");
+inline constexpr QLatin1StringView offerId("offer_id");
+inline constexpr QLatin1StringView name("name");
+inline constexpr QLatin1StringView description("description");
+inline constexpr QLatin1StringView currencyCount("currency_count");
+inline constexpr QLatin1StringView imageUrl("image_url");
+inline constexpr QLatin1StringView clickUrl("click_url");
+} // namespace offerKey
 
 // What an offer object of the reply holds, before it becomes a record.
 struct OfferFields

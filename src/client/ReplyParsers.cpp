@@ -9,13 +9,7 @@ namespace quorva::detail {
 
 namespace {
 namespace key {
-constexpr QLatin1StringView offers("offers");
-constexpr QLatin1StringView offerId("offer_id");
 constexpr QLatin1StringView name("name");
-constexpr QLatin1StringView description("description");
-constexpr QLatin1StringView currencyCount("currency_count");
-constexpr QLatin1StringView imageUrl("image_url");
-constexpr QLatin1StringView clickUrl("click_url");
 constexpr QLatin1StringView profile("profile");
 constexpr QLatin1StringView settings("settings");
 constexpr QLatin1StringView currency("currency");
@@ -54,12 +48,12 @@ QList<Record> records(const QJsonArray &list, Build build)
 
 QList<QVOffer> parseOffersGenerally(const QByteArray &body)
 {
-    const QJsonArray list = json::array(json::object(topLevel(body)).value(key::offers));
+    const QJsonArray list = json::array(json::object(topLevel(body)).value(offerKey::offers));
     return records<QVOffer>(list, [](const QJsonObject &o) {
-        return offerFromFields({json::stringOrNumberText(o.value(key::offerId)), json::string(o.value(key::name)),
-                                json::string(o.value(key::description)),
-                                json::numberText(o.value(key::currencyCount)), json::string(o.value(key::imageUrl)),
-                                json::string(o.value(key::clickUrl))});
+        return offerFromFields({json::stringOrNumberText(o.value(offerKey::offerId)),
+                                json::string(o.value(offerKey::name)), json::string(o.value(offerKey::description)),
+                                json::numberText(o.value(offerKey::currencyCount)),
+                                json::string(o.value(offerKey::imageUrl)), json::string(o.value(offerKey::clickUrl))});
     });
 }
 

@@ -16,6 +16,7 @@
 
 class QAbstractAnimation;
 class QPropertyAnimation;
+class QTimer;
 class QVOffersListModel;
 class QVPayoutFormatter;
 
@@ -210,7 +211,7 @@ private:
     bool m_loadFailed = false;
     bool m_profileFailed = false;
     bool m_showsLoadingIndicator = false;
-    class QTimer *m_loadingIndicatorDelay = nullptr;
+    QTimer *m_loadingIndicatorDelay = nullptr;
     std::optional<QVSort> m_sortParam;
     std::optional<QVCategory> m_categoryParam;
     QPointer<QVFiltersViewController> m_filterVC;

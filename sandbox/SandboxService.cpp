@@ -1,11 +1,13 @@
 #include "SandboxService.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
 
 #include <charconv>
+#include <cmath>
 #include <regex>
 
 namespace quorva::sandbox {
@@ -23,6 +25,7 @@ const std::regex kCategoriesRoute(R"(^/corvel/categories\.json$)");
 const std::regex kTransactionsRoute(R"(^/corvel/api/publisher/([^/]+)/profile/([^/]+)/user/([^/]+)/transactions\.json$)");
 const std::regex kTicketsRoute(R"(^/corvel/api/publisher/([^/]+)/profile/([^/]+)/user/([^/]+)/tickets\.json$)");
 const std::regex kTicketListRoute(R"(^/sandbox/tickets\.json$)");
+const std::regex kCreditRoute(R"(^/sandbox/publisher/([^/]+)/profile/([^/]+)/user/([^/]+)/credits\.json$)");
 const std::regex kPictureRoute(R"(^/img/(\d+)\.png$)");
 const std::regex kClickRoute(R"(^/click/(\d+)$)");
 
@@ -129,6 +132,8 @@ HttpResponse SandboxService::route(const HttpRequest &request)
         return request.method == "POST" ? createTicket(request, m[1], m[2], m[3]) : error(405, "use POST");
     if (std::regex_match(path, m, kTicketListRoute))
         return listTickets();
+    if (std::regex_match(path, m, kCreditRoute))
+        return request.method == "POST" ? credit(request, m[1], m[2], m[3]) : error(405, "use POST");
     // An id too large for any offer is simply not found.
     if (std::regex_match(path, m, kPictureRoute)) {
         const auto id = integer(m[1]);
@@ -292,6 +297,35 @@ HttpResponse SandboxService::listTickets()
         list.append(o);
     }
     return jsonResponse(200, QJsonDocument(QJsonObject{{QStringLiteral("tickets"), list}}));
+}
+
+// Stands in for an offer being completed: the user is credited now.
+HttpResponse SandboxService::credit(const HttpRequest &request, const std::string &pub, const std::string &wall,
+                                    const std::string &user)
+{
+    const auto profileRow = m_store.profile(pub, wall);
+    if (!profileRow)
+        return error(404, "no such profile for this publisher");
+    QJsonParseError parseError;
+    const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(request.body), &parseError);
+    if (parseError.error != QJsonParseError::NoError || !document.isObject())
+        return error(400, "the credit body must be a JSON object");
+    const QJsonValue name = document.object().value(QStringLiteral("offer_name"));
+    const QJsonValue amount = document.object().value(QStringLiteral("currency_adjustment"));
+    if (!name.isString() || name.toString().trimmed().isEmpty())
+        return error(400, "offer_name must be a non-empty string");
+    // Whole amounts only, as the store keeps them.
+    const double value = amount.toDouble();
+    if (!amount.isDouble() || value != std::floor(value) || std::abs(value) > 1e15)
+        return error(400, "currency_adjustment must be a whole number");
+    TransactionRow row;
+    row.offerName = name.toString().toStdString();
+    row.timestamp = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss+0000")).toStdString();
+    row.adjustment = static_cast<std::int64_t>(value);
+    m_store.insertTransaction(profileRow->pubId, profileRow->corvelId, user, row);
+    return jsonResponse(201, QJsonDocument(QJsonObject{{QStringLiteral("offer_name"), name},
+                                                       {QStringLiteral("timestamp"), q(row.timestamp)},
+                                                       {QStringLiteral("currency_adjustment"), amount}}));
 }
 
 HttpResponse SandboxService::picture(std::int64_t offerId)

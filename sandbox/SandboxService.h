@@ -41,6 +41,8 @@ private:
     http::HttpResponse createTicket(const http::HttpRequest &request, const std::string &pub,
                                     const std::string &wall, const std::string &user);
     http::HttpResponse listTickets();
+    http::HttpResponse credit(const http::HttpRequest &request, const std::string &pub, const std::string &wall,
+                              const std::string &user);
     http::HttpResponse picture(std::int64_t offerId);
     http::HttpResponse clickPage(std::int64_t offerId);
     void applyFaults(const http::HttpRequest &request, http::HttpResponse &response);

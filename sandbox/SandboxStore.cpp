@@ -162,11 +162,8 @@ void SandboxStore::seedIfEmpty()
             .bind(o.row.payout).bind(o.row.categoryId).bind(std::int64_t(o.row.featured))
             .bind(o.popularity).bind(o.trending).bind(o.creditDelayHours).step();
     }
-    for (const auto &t : catalogue.transactions) {
-        Statement(m_db, "INSERT INTO transactions VALUES (?,?,?,?,?,?)")
-            .bind(t.pubId).bind(t.corvelId).bind(t.userId).bind(t.row.offerName)
-            .bind(t.row.timestamp).bind(t.row.adjustment).step();
-    }
+    for (const auto &t : catalogue.transactions)
+        insertTransaction(t.pubId, t.corvelId, t.userId, t.row);
     exec("COMMIT");
 }
 
@@ -229,12 +226,20 @@ std::vector<CategoryRow> SandboxStore::categories()
 std::vector<TransactionRow> SandboxStore::transactions(const ProfileRow &profile, const std::string &userId)
 {
     Statement s(m_db, "SELECT offer_name, timestamp, adjustment FROM transactions "
-                      "WHERE pub_id = ? AND corvel_id = ? AND user_id = ? ORDER BY timestamp DESC");
+                      "WHERE pub_id = ? AND corvel_id = ? AND user_id = ? ORDER BY timestamp DESC, rowid DESC");
     s.bind(profile.pubId).bind(profile.corvelId).bind(userId);
     std::vector<TransactionRow> rows;
     while (s.step())
         rows.push_back({s.text(0), s.text(1), s.integer(2)});
     return rows;
+}
+
+void SandboxStore::insertTransaction(const std::string &pubId, const std::string &corvelId,
+                                     const std::string &userId, const TransactionRow &row)
+{
+    Statement(m_db, "INSERT INTO transactions VALUES (?,?,?,?,?,?)")
+        .bind(pubId).bind(corvelId).bind(userId).bind(row.offerName)
+        .bind(row.timestamp).bind(row.adjustment).step();
 }
 
 std::int64_t SandboxStore::insertTicket(const TicketRow &t)

@@ -78,6 +78,8 @@ public:
     std::vector<CategoryRow> categories();
     std::vector<TransactionRow> transactions(const ProfileRow &profile, const std::string &userId);
     std::int64_t insertTicket(const TicketRow &ticket);
+    void insertTransaction(const std::string &pubId, const std::string &corvelId, const std::string &userId,
+                           const TransactionRow &row);
     std::vector<TicketRow> tickets();
 
 private:

@@ -11,6 +11,7 @@
 #include <QuorvaMedia/QVCategory.h>
 #include <QuorvaMedia/QVSort.h>
 #include <QuorvaMedia/QuorvaRestAPI.h>
+#include <QuorvaMedia/QVCreditsWatcher.h>
 #include <QuorvaMedia/QVDevice.h>
 #include <QuorvaMedia/QVColor.h>
 #include <QuorvaMedia/QVImageCache.h>
@@ -34,4 +35,5 @@
 #include <QuorvaMedia/QVTransactionCollectionViewCell.h>
 #include <QuorvaMedia/QVHistoryViewController.h>
 #include <QuorvaMedia/QVSupportViewController.h>
+#include <QuorvaMedia/QVOfferWallPreload.h>
 #include <QuorvaMedia/QVOffersViewController.h>

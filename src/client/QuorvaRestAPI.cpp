@@ -2,6 +2,7 @@
 #include "QuorvaLog.h"
 #include "ReplyParsers.h"
 #include "RequestPipeline.h"
+#include "ServiceRequests.h"
 #include "ServiceTimestamp.h"
 #include "UserAgent.h"
 #include "../ui/QVDevice.h"
@@ -16,6 +17,8 @@
 #include <QtCore/QUuid>
 
 using quorva::detail::RequestPipeline;
+using quorva::detail::ServiceIdentity;
+using quorva::detail::ServiceRequests;
 using quorva::detail::TransferRequest;
 
 namespace {
@@ -230,11 +233,6 @@ QString QuorvaRestAPI::addressFor(const char *scheme, const QString &path) const
     return QLatin1StringView(scheme) + m_baseAddress + path;
 }
 
-QString QuorvaRestAPI::profilePath(const char *pathFormat) const
-{
-    return QString::fromLatin1(pathFormat).arg(m_pubId, m_corvelId);
-}
-
 QString QuorvaRestAPI::userPath(const char *pathFormat) const
 {
     return QString::fromLatin1(pathFormat).arg(m_pubId, m_corvelId, m_subId1);
@@ -258,49 +256,19 @@ TransferRequest QuorvaRestAPI::requestFor(const char *name, const QString &addre
 void QuorvaRestAPI::fetchOffers(quint64 offset, const QString &sortby, const QString &category,
                                 bool featured, OffersCallback callback, FailureCallback failure)
 {
-    require(m_subId1, "fetchOffers", "subId1");
-    const QVAdvertisingInfo advertising = advertisingInfo();
-    QVariantMap params{
-        {query::subid1, m_subId1},
-        {query::limit, QString::number(kPageSize)},
-        {query::offset, QString::number(offset)},
-        {query::sortOrder, QString(query::descending)},
-        {query::device, advertising.identifier},
-        // The service reads this flag as "tracking allowed", despite its name.
-        {query::limitTracking, advertising.trackingEnabled},
-        {query::sortBy, sortby.isNull() ? QString(query::defaultSort) : sortby},
-    };
-    insertIfPresent(params, query::categoryId, category);
-    if (featured)
-        params.insert(query::featuredOnly, QStringLiteral("1"));
-    insertIfPresent(params, query::ageRangeId, m_ageRange);
-    insertIfPresent(params, query::gender, m_gender);
-    insertIfPresent(params, query::subid2, m_subId2);
-    insertIfPresent(params, query::subid3, m_subId3);
-    insertIfPresent(params, query::subid4, m_subId4);
-
-    const QString address = urlString(addressFor(kHttps, profilePath(kOffersPath)), params);
-    RequestPipeline::send<QList<QVOffer>>(
-        connectionQueue(), requestFor(requestname::offers, address), &quorva::detail::parseOffers,
-        [callback = std::move(callback)](int status, const QList<QVOffer> &offers) {
-            callback(offers, status != kStatusNoContent);
-        },
-        std::move(failure));
+    ServiceRequests::sendOffers(
+        this, ServiceRequests::offersRequest(this, ServiceIdentity::of(this), offset, sortby, category, featured),
+        std::move(callback), std::move(failure));
 }
 
 void QuorvaRestAPI::fetchProfile(ProfileCallback callback, FailureCallback failure)
 {
-    // The profile details are served over plain http.
-    const QString address = urlString(addressFor(kHttp, profilePath(kProfilePath)), std::nullopt);
-    RequestPipeline::send<QVProfile>(
-        connectionQueue(), requestFor(requestname::profile, address), &quorva::detail::parseProfile,
-        [callback = std::move(callback)](int status, const QVProfile &profile) {
-            if (status == kStatusNotFound) {
-                // Neither callback runs: the caller keeps its current display.
-                qCInfo(lcQuorva).noquote() << logline::unknownProfile;
-                return;
-            }
-            callback(profile);
+    ServiceRequests::fetchProfile(
+        this, ServiceIdentity::of(this),
+        [callback = std::move(callback)](const std::optional<QVProfile> &profile) {
+            // Unknown profile: neither callback runs, the caller keeps its current display.
+            if (profile)
+                callback(*profile);
         },
         std::move(failure));
 }
@@ -319,13 +287,12 @@ void QuorvaRestAPI::fetchCategories(CategoriesCallback callback, FailureCallback
 
 void QuorvaRestAPI::fetchHistory(HistoryCallback callback, FailureCallback failure)
 {
-    const QString address = urlString(addressFor(kHttps, userPath(kHistoryPath)), std::nullopt);
-    RequestPipeline::send<QList<QVTransaction>>(
-        connectionQueue(), requestFor(requestname::history, address), &quorva::detail::parseTransactions,
-        [callback = std::move(callback)](int status, const QList<QVTransaction> &transactions) {
+    ServiceRequests::fetchHistory(
+        this, ServiceIdentity::of(this),
+        [callback = std::move(callback)](int status, const std::optional<QList<QVTransaction>> &transactions) {
             if (status == kStatusNoContent)
                 qCInfo(lcQuorva).noquote() << logline::noTransactions;
-            callback(transactions);
+            callback(transactions.value_or(QList<QVTransaction>()));
         },
         std::move(failure));
 }
@@ -361,3 +328,80 @@ void QuorvaRestAPI::createSupportTicket(const QString &name, const QString &emai
         },
         failure);
 }
+
+namespace quorva::detail {
+
+ServiceIdentity ServiceIdentity::of(const QuorvaRestAPI *api)
+{
+    return {api->pubId(), api->corvelId(), api->subId1()};
+}
+
+TransferRequest ServiceRequests::offersRequest(QuorvaRestAPI *api, const ServiceIdentity &identity, quint64 offset,
+                                               const QString &sortby, const QString &category, bool featured)
+{
+    require(identity.subId1, "fetchOffers", "subId1");
+    const QVAdvertisingInfo advertising = api->advertisingInfo();
+    QVariantMap params{
+        {query::subid1, identity.subId1},
+        {query::limit, QString::number(kPageSize)},
+        {query::offset, QString::number(offset)},
+        {query::sortOrder, QString(query::descending)},
+        {query::device, advertising.identifier},
+        // The service reads this flag as "tracking allowed", despite its name.
+        {query::limitTracking, advertising.trackingEnabled},
+        {query::sortBy, sortby.isNull() ? QString(query::defaultSort) : sortby},
+    };
+    insertIfPresent(params, query::categoryId, category);
+    if (featured)
+        params.insert(query::featuredOnly, QStringLiteral("1"));
+    insertIfPresent(params, query::ageRangeId, api->m_ageRange);
+    insertIfPresent(params, query::gender, api->m_gender);
+    insertIfPresent(params, query::subid2, api->m_subId2);
+    insertIfPresent(params, query::subid3, api->m_subId3);
+    insertIfPresent(params, query::subid4, api->m_subId4);
+
+    const QString path = QString::fromLatin1(kOffersPath).arg(identity.pubId, identity.corvelId);
+    return api->requestFor(requestname::offers, api->urlString(api->addressFor(kHttps, path), params));
+}
+
+void ServiceRequests::sendOffers(QuorvaRestAPI *api, TransferRequest request, QuorvaRestAPI::OffersCallback callback,
+                                 QuorvaRestAPI::FailureCallback failure)
+{
+    RequestPipeline::send<QList<QVOffer>>(
+        api->connectionQueue(), std::move(request), &parseOffers,
+        [callback = std::move(callback)](int status, const QList<QVOffer> &offers) {
+            callback(offers, status != kStatusNoContent);
+        },
+        std::move(failure));
+}
+
+void ServiceRequests::fetchProfile(QuorvaRestAPI *api, const ServiceIdentity &identity, ProfileOutcome callback,
+                                   QuorvaRestAPI::FailureCallback failure)
+{
+    // The profile details are served over plain http.
+    const QString path = QString::fromLatin1(kProfilePath).arg(identity.pubId, identity.corvelId);
+    const QString address = api->urlString(api->addressFor(kHttp, path), std::nullopt);
+    RequestPipeline::send<QVProfile>(
+        api->connectionQueue(), api->requestFor(requestname::profile, address), &parseProfile,
+        [callback = std::move(callback)](int status, const QVProfile &profile) {
+            if (status == kStatusNotFound) {
+                qCInfo(lcQuorva).noquote() << logline::unknownProfile;
+                callback(std::nullopt);
+                return;
+            }
+            callback(profile);
+        },
+        std::move(failure));
+}
+
+void ServiceRequests::fetchHistory(QuorvaRestAPI *api, const ServiceIdentity &identity, HistoryOutcome callback,
+                                   QuorvaRestAPI::FailureCallback failure)
+{
+    const QString path = QString::fromLatin1(kHistoryPath).arg(identity.pubId, identity.corvelId, identity.subId1);
+    const QString address = api->urlString(api->addressFor(kHttps, path), std::nullopt);
+    RequestPipeline::send<std::optional<QList<QVTransaction>>>(
+        api->connectionQueue(), api->requestFor(requestname::history, address), &parseTransactionList,
+        std::move(callback), std::move(failure));
+}
+
+} // namespace quorva::detail

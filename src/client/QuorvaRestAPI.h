@@ -19,7 +19,7 @@
 #include <optional>
 
 class QThreadPool;
-namespace quorva::detail { struct TransferRequest; }
+namespace quorva::detail { struct TransferRequest; struct ServiceRequests; }
 
 // The one client of the offer service. Holds the publisher, profile and user identifiers
 // and the targeting values; every request is asynchronous and reports back on the GUI
@@ -101,10 +101,10 @@ public:
                              FailureCallback failure);
 
 private:
+    friend struct quorva::detail::ServiceRequests;
     explicit QuorvaRestAPI(QObject *parent = nullptr);
 
     QString addressFor(const char *scheme, const QString &path) const;
-    QString profilePath(const char *pathFormat) const;
     QString userPath(const char *pathFormat) const;
     quorva::detail::TransferRequest requestFor(const char *name, const QString &address);
     QVAdvertisingInfo advertisingInfo() const;

@@ -86,16 +86,23 @@ QList<QVCategory> parseCategories(const QByteArray &body)
     });
 }
 
-QList<QVTransaction> parseTransactions(const QByteArray &body)
+std::optional<QList<QVTransaction>> parseTransactionList(const QByteArray &body)
 {
-    const QJsonArray list = json::array(json::object(topLevel(body)).value(key::transactions));
-    return records<QVTransaction>(list, [](const QJsonObject &o) {
+    const QJsonValue list = json::object(topLevel(body)).value(key::transactions);
+    if (!list.isArray())
+        return std::nullopt;
+    return records<QVTransaction>(list.toArray(), [](const QJsonObject &o) {
         QVTransaction transaction;
         transaction.setOfferName(json::string(o.value(key::offerName)));
         transaction.setTimestamp(displayTimestamp(json::string(o.value(key::timestamp))));
         transaction.setCurrencyAdjustment(json::numberText(o.value(key::currencyAdjustment)));
         return transaction;
     });
+}
+
+QList<QVTransaction> parseTransactions(const QByteArray &body)
+{
+    return parseTransactionList(body).value_or(QList<QVTransaction>());
 }
 
 QVariant parseTicketId(const QByteArray &body)

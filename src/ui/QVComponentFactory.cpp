@@ -17,13 +17,18 @@ QQmlComponent *componentFor(QQmlEngine *engine, const QString &typeName)
     const auto key = qMakePair(engine, typeName);
     if (QQmlComponent *existing = components.value(key))
         return existing;
-    auto *component = new QQmlComponent(engine, QUrl(kModuleRoot + typeName + QStringLiteral(".qml")),
+    auto *component = new QQmlComponent(engine, QVComponentFactory::urlFor(typeName),
                                         QQmlComponent::PreferSynchronous, engine);
     QObject::connect(engine, &QObject::destroyed, [key] { components.remove(key); });
     components.insert(key, component);
     return component;
 }
 } // namespace
+
+QUrl QVComponentFactory::urlFor(const QString &typeName)
+{
+    return QUrl(kModuleRoot + typeName + QStringLiteral(".qml"));
+}
 
 QQmlEngine *QVComponentFactory::sharedEngine()
 {

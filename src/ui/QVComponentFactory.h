@@ -4,6 +4,7 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QUrl>
 #include <QtCore/QVariantMap>
 
 class QQmlEngine;
@@ -16,6 +17,8 @@ class QUORVAMEDIA_EXPORT QVComponentFactory
 public:
     // The engine the factory uses when the caller has none (the C++ entry point).
     static QQmlEngine *sharedEngine();
+    // Where the interface file of a type lies among the library's resources.
+    static QUrl urlFor(const QString &typeName);
 
     // Creates the type named after an interface file ("QVFiltersViewController") with
     // the given properties set before completion. Returns nullptr and logs on failure.

@@ -1,14 +1,18 @@
 #include "QVOffersViewController.h"
 #include "QVAlertPresenter.h"
 #include "QVComponentFactory.h"
+#include "QVCreditsWatcher.h"
+#include "OfferWallPreloadState.h"
 #include "QVDevice.h"
 #include "QVImageView.h"
 #include "QVOffersListModel.h"
 #include "QVPayoutFormatter.h"
 #include "QuorvaLog.h"
 #include "QuorvaRestAPI.h"
+#include "ServiceRequests.h"
 
 #include <QtCore/QTimer>
+#include <QtGui/QAccessible>
 #include <QtGui/QDesktopServices>
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickWindow>
@@ -24,6 +28,8 @@ constexpr QLatin1StringView kAlertTitle("No Connection");
 // The leading blank belongs to this screen's message.
 constexpr QLatin1StringView kAlertMessage(" Please check your internet and try again.");
 constexpr QLatin1StringView kAlertAction("Ok");
+constexpr QLatin1StringView kCreditFormat("%1 %2");
+constexpr QLatin1StringView kCreditOffersSeparator(", ");
 
 const QString kAgeRanges[] = {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"),
                               QStringLiteral("4"), QStringLiteral("5")};
@@ -39,6 +45,10 @@ QVOffersViewController::QVOffersViewController(QQuickItem *parent)
         m_showsLoadingIndicator = m_loadingOffers;
         emit showsLoadingIndicatorChanged();
     });
+    m_creditNoticeTimer = new QTimer(this);
+    m_creditNoticeTimer->setSingleShot(true);
+    m_creditNoticeTimer->setInterval(kCreditNoticeMs);
+    connect(m_creditNoticeTimer, &QTimer::timeout, this, &QVOffersViewController::dismissCreditNotice);
 }
 
 int QVOffersViewController::offerCount() const
@@ -66,9 +76,16 @@ QVOffersViewController *QVOffersViewController::newOffersWallForPublisherId(cons
     api->setPubId(pubId);
     api->setCorvelId(corvelId);
     api->setSubId1(subId1);
-    auto *wall = QVComponentFactory::create<QVOffersViewController>(QVComponentFactory::sharedEngine(), identifier());
-    if (wall)
+    // A preload for these identifiers may have built the wall already; whether it also
+    // gives its replies is decided when the wall loads.
+    QVOfferWallPreload *preload = QVOfferWallPreload::find(quorva::detail::ServiceIdentity::of(api));
+    QVOffersViewController *wall = preload ? qobject_cast<QVOffersViewController *>(preload->takeBuiltWall()) : nullptr;
+    if (!wall)
+        wall = QVComponentFactory::create<QVOffersViewController>(QVComponentFactory::sharedEngine(), identifier());
+    if (wall) {
         wall->setDelegate(delegate);
+        wall->m_preload = preload;
+    }
     return wall;
 }
 
@@ -154,10 +171,65 @@ void QVOffersViewController::viewDidLoad()
     m_isFiltersViewOpen = false;
     m_isSupportViewOpen = false;
     m_offers->clear();
-    loadMoreOffers();
     m_numberFormatter = std::make_unique<QVPayoutFormatter>();
+    // The first page as this wall would send it; a preload of the very same request
+    // stands in for it and for the profile.
+    quorva::detail::TransferRequest firstPage = quorva::detail::ServiceRequests::offersRequest(
+        QuorvaRestAPI::sharedInstance(), quorva::detail::ServiceIdentity::of(QuorvaRestAPI::sharedInstance()), 0,
+        QString(), QString(), false);
     setHeaderText(QStringLiteral(""));
+    if (takePreload(firstPage))
+        return;
+    setLoadingOffers(true);
+    sendOffersRequest(std::move(firstPage));
     requestProfile();
+}
+
+bool QVOffersViewController::takePreload(const quorva::detail::TransferRequest &firstPage)
+{
+    QVOfferWallPreload *preload = m_preload;
+    m_preload = nullptr;
+    if (!preload || !preload->take(firstPage))
+        return false;
+    m_preload = preload;
+    m_preloadOffersPending = true;
+    m_preloadProfilePending = true;
+    setLoadingOffers(true);
+    connect(preload, &QVOfferWallPreload::replyArrived, this, &QVOffersViewController::applyPreload);
+    applyPreload();
+    return true;
+}
+
+// Takes each reply of the preload as it would have taken its own request's.
+void QVOffersViewController::applyPreload()
+{
+    if (!m_preload)
+        return;
+    const QVOfferWallPreload::Private &preload = m_preload->state();
+    using Reply = QVOfferWallPreload::Private::Reply;
+    if (m_preloadOffersPending && preload.offersReply != Reply::Pending) {
+        m_preloadOffersPending = false;
+        if (preload.offersReply == Reply::Arrived) {
+            offersArrived(preload.offers, preload.moreOffers);
+        } else {
+            qCInfo(lcQuorva).noquote() << kOffersFailedLog;
+            offersFailed();
+        }
+    }
+    if (m_preloadProfilePending && preload.profileReply != Reply::Pending) {
+        m_preloadProfilePending = false;
+        if (preload.profileReply == Reply::Failed) {
+            qCInfo(lcQuorva).noquote() << kProfileFailedLog;
+            m_profileFailed = true;
+        } else if (preload.profile) {
+            profileArrived(*preload.profile);
+        }
+    }
+    if (!m_preloadOffersPending && !m_preloadProfilePending) {
+        m_preload->disconnect(this);
+        m_preload->release();
+        m_preload = nullptr;
+    }
 }
 
 void QVOffersViewController::requestProfile()
@@ -166,21 +238,26 @@ void QVOffersViewController::requestProfile()
     QPointer<QVOffersViewController> self(this);
     QuorvaRestAPI::sharedInstance()->fetchProfile(
         [self](const QVProfile &profile) {
-            if (!self)
-                return;
-            const QString name = profile.currencyName().isNull() ? QString(kAbsentText) : profile.currencyName();
-            const QString title = QString(kEarnFormat).arg(name);
-            // An open overlay keeps its own title; the wall's comes back when it closes.
-            if (self->m_isFiltersViewOpen || self->m_isSupportViewOpen)
-                self->m_lastHeaderTitle = title;
-            else
-                self->setHeaderText(title);
+            if (self)
+                self->profileArrived(profile);
         },
         [self] {
             qCInfo(lcQuorva).noquote() << kProfileFailedLog;
             if (self)
                 self->m_profileFailed = true;
         });
+}
+
+void QVOffersViewController::profileArrived(const QVProfile &profile)
+{
+    m_currencyName = profile.currencyName();
+    const QString name = profile.currencyName().isNull() ? QString(kAbsentText) : profile.currencyName();
+    const QString title = QString(kEarnFormat).arg(name);
+    // An open overlay keeps its own title; the wall's comes back when it closes.
+    if (m_isFiltersViewOpen || m_isSupportViewOpen)
+        m_lastHeaderTitle = title;
+    else
+        setHeaderText(title);
 }
 
 void QVOffersViewController::onRetryPressed()
@@ -237,27 +314,64 @@ void QVOffersViewController::loadMoreOffers()
             category = m_categoryParam->categoryId();
     }
     const QString sort = m_sortParam ? m_sortParam->value() : QString();
+    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+    sendOffersRequest(quorva::detail::ServiceRequests::offersRequest(
+        api, quorva::detail::ServiceIdentity::of(api), quint64(m_offers->count()), sort, category, featured));
+}
 
+void QVOffersViewController::sendOffersRequest(quorva::detail::TransferRequest request)
+{
     QPointer<QVOffersViewController> self(this);
-    QuorvaRestAPI::sharedInstance()->fetchOffers(
-        quint64(m_offers->count()), sort, category, featured,
+    quorva::detail::ServiceRequests::sendOffers(
+        QuorvaRestAPI::sharedInstance(), std::move(request),
         [self](const QList<QVOffer> &offers, bool more) {
-            if (!self)
-                return;
-            self->m_moreOffersAvailable = more;
-            self->m_offers->append(offers);
-            self->reloadData();
-            self->setLastPageFailed(false);
-            self->setLoadingOffers(false);
+            if (self)
+                self->offersArrived(offers, more);
         },
         [self] {
             qCInfo(lcQuorva).noquote() << kOffersFailedLog;
-            if (!self)
-                return;
-            self->setLastPageFailed(true);
-            self->setLoadingOffers(false);
-            self->showFailureAlert();
+            if (self)
+                self->offersFailed();
         });
+}
+
+void QVOffersViewController::offersArrived(const QList<QVOffer> &offers, bool more)
+{
+    m_moreOffersAvailable = more;
+    m_offers->append(offers);
+    reloadData();
+    setLastPageFailed(false);
+    setLoadingOffers(false);
+    if (!m_offersShown && !m_offersShownPending && m_offers->count() > 0)
+        watchForFirstOffersOnScreen();
+}
+
+void QVOffersViewController::offersFailed()
+{
+    setLastPageFailed(true);
+    setLoadingOffers(false);
+    showFailureAlert();
+}
+
+void QVOffersViewController::watchForFirstOffersOnScreen()
+{
+    QQuickWindow *host = window();
+    if (!host)
+        return;
+    m_offersShownPending = true;
+    m_framesSinceFirstOffers = 0;
+    // The first swap may end a frame that was under way before the offers arrived; the
+    // second one shows them.
+    auto connection = std::make_shared<QMetaObject::Connection>();
+    *connection = connect(host, &QQuickWindow::frameSwapped, this, [this, connection] {
+        if (++m_framesSinceFirstOffers < 2)
+            return;
+        disconnect(*connection);
+        m_offersShownPending = false;
+        m_offersShown = true;
+        emit offersShown();
+    }, Qt::QueuedConnection);
+    host->update();
 }
 
 void QVOffersViewController::reloadData()
@@ -296,8 +410,84 @@ bool QVOffersViewController::configureCell(QVOfferUICollectionViewCell *cell, in
 void QVOffersViewController::onCreditsPressed(const QString &clickURL)
 {
     const QUrl url(clickURL, QUrl::StrictMode);
-    if (url.isValid() && !url.isEmpty())
-        QDesktopServices::openUrl(url);
+    if (!url.isValid() || url.isEmpty())
+        return;
+    QDesktopServices::openUrl(url);
+    // The cell names its offer by its address; the first offer with it is the one shown.
+    const QList<QVOffer> &offers = m_offers->offers();
+    const auto offer = std::find_if(offers.cbegin(), offers.cend(),
+                                    [&clickURL](const QVOffer &o) { return o.clickURL() == clickURL; });
+    if (offer != offers.cend()) {
+        emit offerOpened(*offer);
+    } else {
+        QVOffer opened;
+        opened.setClickURL(clickURL);
+        emit offerOpened(opened);
+    }
+}
+
+void QVOffersViewController::setCreditsWatcher(QVCreditsWatcher *watcher)
+{
+    if (m_creditsWatcher == watcher)
+        return;
+    disconnect(m_creditsConnection);
+    m_creditsWatcher = watcher;
+    if (watcher)
+        m_creditsConnection = connect(watcher, &QVCreditsWatcher::creditsReceived, this,
+                                      &QVOffersViewController::creditsReceived);
+}
+
+QVCreditsWatcher *QVOffersViewController::creditsWatcher() const
+{
+    return m_creditsWatcher;
+}
+
+void QVOffersViewController::creditsReceived(const QList<QVTransaction> &transactions)
+{
+    if (!window() || !isVisible())
+        return;
+    // Several credits in a row add up to one notice; a reversal is not a credit.
+    const double before = m_creditNoticeShown ? m_creditNoticeSum : 0;
+    QStringList offers = m_creditNoticeShown ? m_creditNoticeOffers : QStringList();
+    double sum = before;
+    for (const QVTransaction &transaction : transactions) {
+        const double amount = transaction.currencyAdjustment().toDouble();
+        if (amount <= 0)
+            continue;
+        sum += amount;
+        if (!transaction.offerName().isEmpty())
+            offers.append(transaction.offerName());
+    }
+    if (sum == before)
+        return;
+    m_creditNoticeSum = sum;
+    m_creditNoticeOffers = offers;
+    const QString amount = QVPayoutFormatter().payoutTitle(QString::number(sum, 'g', 17));
+    const QString text = m_currencyName.isEmpty() ? amount : QString(kCreditFormat).arg(amount, m_currencyName);
+    setCreditNotice(true, text, offers.join(kCreditOffersSeparator));
+    m_creditNoticeTimer->start();
+    if (m_creditNotice) {
+        QAccessibleEvent announcement(m_creditNotice, QAccessible::Alert);
+        QAccessible::updateAccessibility(&announcement);
+    }
+}
+
+void QVOffersViewController::dismissCreditNotice()
+{
+    m_creditNoticeTimer->stop();
+    m_creditNoticeSum = 0;
+    m_creditNoticeOffers.clear();
+    setCreditNotice(false, m_creditNoticeText, m_creditNoticeDetail);
+}
+
+void QVOffersViewController::setCreditNotice(bool shown, const QString &text, const QString &detail)
+{
+    if (m_creditNoticeShown == shown && m_creditNoticeText == text && m_creditNoticeDetail == detail)
+        return;
+    m_creditNoticeShown = shown;
+    m_creditNoticeText = text;
+    m_creditNoticeDetail = detail;
+    emit creditNoticeChanged();
 }
 
 void QVOffersViewController::onClosePressed()

@@ -5,8 +5,10 @@
 #include "QVFiltersViewController.h"
 #include "QVOfferUICollectionViewCell.h"
 #include "QVOffer.h"
+#include "QVProfile.h"
 #include "QVSort.h"
 #include "QVSupportViewController.h"
+#include "QVTransaction.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QAbstractItemModel>
@@ -17,8 +19,11 @@
 class QAbstractAnimation;
 class QPropertyAnimation;
 class QTimer;
+class QVCreditsWatcher;
+class QVOfferWallPreload;
 class QVOffersListModel;
 class QVPayoutFormatter;
+namespace quorva::detail { struct TransferRequest; }
 
 
 // The host's listener: told once, when the user presses close.
@@ -69,6 +74,10 @@ class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
     Q_PROPERTY(bool filtersViewOpen READ isFiltersViewOpen NOTIFY overlaysChanged FINAL)
     Q_PROPERTY(bool overlayAnimating READ isOverlayAnimating NOTIFY overlayAnimatingChanged FINAL)
     Q_PROPERTY(bool loadFailed READ loadFailed NOTIFY loadFailedChanged FINAL)
+    Q_PROPERTY(QQuickItem *creditNotice MEMBER m_creditNotice NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(bool creditNoticeShown READ creditNoticeShown NOTIFY creditNoticeChanged FINAL)
+    Q_PROPERTY(QString creditNoticeText READ creditNoticeText NOTIFY creditNoticeChanged FINAL)
+    Q_PROPERTY(QString creditNoticeDetail READ creditNoticeDetail NOTIFY creditNoticeChanged FINAL)
 
 public:
     explicit QVOffersViewController(QQuickItem *parent = nullptr);
@@ -78,6 +87,22 @@ public:
                                                                const QString &subId1,
                                                                QVOffersViewControllerDelegate *delegate);
     static QString identifier() { return QStringLiteral("QVOffersViewController"); }
+
+    // Requests the profile and the first page and builds the wall in the GUI thread's idle
+    // time, so that a wall created later for the same identifiers shows its first offers
+    // at once. Asking again for the same identifiers while it loads or is ready gives
+    // the same preload.
+    static QVOfferWallPreload *preloadForPublisherId(const QString &pubId, const QString &corvelId,
+                                                     const QString &subId1);
+
+    // While the wall is on screen, credits the watcher reports show as a notice under the
+    // header. The wall neither owns nor starts the watcher.
+    void setCreditsWatcher(QVCreditsWatcher *watcher);
+    QVCreditsWatcher *creditsWatcher() const;
+    bool creditNoticeShown() const { return m_creditNoticeShown; }
+    QString creditNoticeText() const { return m_creditNoticeText; }
+    QString creditNoticeDetail() const { return m_creditNoticeDetail; }
+    static constexpr int kCreditNoticeMs = 4000;
 
     QVOffersViewControllerDelegate *delegate() const { return m_delegate; }
     void setDelegate(QVOffersViewControllerDelegate *delegate) { m_delegate = delegate; }
@@ -148,6 +173,8 @@ public:
     void closeFiltersView();
     void closeSupportView();
     void loadMoreOffers();
+    // Hides the credit notice before its time.
+    Q_INVOKABLE void dismissCreditNotice();
 
     void onCreditsPressed(const QString &clickURL) override;
     bool configureCell(QVOfferUICollectionViewCell *cell, int row) override;
@@ -170,6 +197,11 @@ signals:
     void loadFailedChanged();
     void offerCountChanged();
     void showsLoadingIndicatorChanged();
+    void creditNoticeChanged();
+    // An offer's click address was handed to the browser.
+    void offerOpened(const QVOffer &offer);
+    // The wall's first offers are on screen; once per wall.
+    void offersShown();
 
 protected:
     void itemChange(ItemChange change, const ItemChangeData &value) override;
@@ -184,6 +216,15 @@ private:
     void setLastPageFailed(bool failed);
     void updateLoadFailed();
     void requestProfile();
+    void sendOffersRequest(quorva::detail::TransferRequest request);
+    void offersArrived(const QList<QVOffer> &offers, bool more);
+    void offersFailed();
+    void profileArrived(const QVProfile &profile);
+    bool takePreload(const quorva::detail::TransferRequest &firstPage);
+    void applyPreload();
+    void watchForFirstOffersOnScreen();
+    void creditsReceived(const QList<QVTransaction> &transactions);
+    void setCreditNotice(bool shown, const QString &text, const QString &detail);
     void setHeaderText(const QString &text);
     QString headerText() const;
     void showFailureAlert();
@@ -234,4 +275,22 @@ private:
     QQuickItem *m_noOffersLabel = nullptr;
     QObject *m_filterPopover = nullptr;
     QObject *m_supportPopover = nullptr;
+
+    // Added after 1.1.0: kept last so the members above keep their places.
+    QPointer<QVOfferWallPreload> m_preload;
+    bool m_preloadOffersPending = false;
+    bool m_preloadProfilePending = false;
+    bool m_offersShownPending = false;
+    bool m_offersShown = false;
+    int m_framesSinceFirstOffers = 0;
+    QString m_currencyName;
+    QPointer<QVCreditsWatcher> m_creditsWatcher;
+    QMetaObject::Connection m_creditsConnection;
+    QTimer *m_creditNoticeTimer = nullptr;
+    double m_creditNoticeSum = 0;
+    QStringList m_creditNoticeOffers;
+    bool m_creditNoticeShown = false;
+    QString m_creditNoticeText;
+    QString m_creditNoticeDetail;
+    QQuickItem *m_creditNotice = nullptr;
 };

@@ -1,6 +1,7 @@
 # Screens, cells, UI utilities and the interface files they are laid out by.
 list(APPEND QUORVA_PUBLIC_HEADERS
     wall/QVOffersViewController.h
+    wall/QVOfferWallPreload.h
     wall/QVOfferUICollectionViewCell.h
     wall/QVFiltersViewController.h
     wall/QVFilterCells.h
@@ -20,6 +21,7 @@ set(QUORVA_UI_SOURCES
     wall/QVOffersListModel.h wall/QVOffersListModel.cpp
     wall/QVOffersViewController.cpp
     wall/QVOffersViewControllerOverlays.cpp
+    wall/QVOfferWallPreload.cpp wall/OfferWallPreloadState.h
     wall/QVOfferUICollectionViewCell.cpp
     wall/QVFiltersViewController.cpp
     wall/QVFilterListModel.h wall/QVFilterListModel.cpp

@@ -84,7 +84,9 @@ FakeOfferService::FakeOfferService()
             if (m_historyDropped)
                 return dropped();
             std::lock_guard lock(m_historyMutex);
-            return HttpResponse::json(m_historyStatus, m_historyBody);
+            HttpResponse history = HttpResponse::json(m_historyStatus, m_historyBody);
+            history.releaseWhen = [this] { return !m_historyHeld; };
+            return history;
         }
         if (endsWith("/tickets.json")) {
             if (m_ticketsDropped)

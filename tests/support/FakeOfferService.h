@@ -34,6 +34,7 @@ public:
     // The history's answer: a status and a JSON body; a dropped connection when dropped.
     void setHistory(int status, const QByteArray &body);
     void setHistoryDropped(bool dropped) { m_historyDropped = dropped; }
+    void setHistoryHeld(bool held) { m_historyHeld = held; }
     // Ticket requests: answered 201 with a new id unless dropped; held while held.
     void setTicketsDropped(bool dropped) { m_ticketsDropped = dropped; }
     void setTicketsHeld(bool held) { m_ticketsHeld = held; }
@@ -54,6 +55,7 @@ private:
     std::atomic<bool> m_categoriesDropped{false};
     std::atomic<int> m_payout{1500};
     std::atomic<bool> m_historyDropped{false};
+    std::atomic<bool> m_historyHeld{false};
     std::atomic<bool> m_profileHeld{false};
     std::atomic<bool> m_ticketsDropped{false};
     std::atomic<bool> m_ticketsHeld{false};

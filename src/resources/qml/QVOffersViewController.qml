@@ -13,6 +13,7 @@ QVOffersViewControllerBase {
     supportBtn: supportButton
     collectionView: list
     noOffersLabel: emptyLabel
+    creditNotice: creditNoticeView
 
     clip: true
 
@@ -156,6 +157,57 @@ QVOffersViewControllerBase {
             text: "Try again"
             Accessible.name: "Try loading the offers again"
             onClicked: root.onRetryPressed()
+        }
+    }
+
+    // Told when the user has been credited: the amount, then the offers it was for.
+    Rectangle {
+        id: creditNoticeView
+        objectName: "creditNotice"
+        anchors.top: header.bottom
+        anchors.topMargin: 8
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: Math.min(parent.width - 24, 420)
+        height: noticeText.implicitHeight + noticeDetail.implicitHeight + 24
+        radius: 12
+        z: 3
+        color: "#1E7A45"
+        opacity: root.creditNoticeShown ? 1 : 0
+        visible: opacity > 0
+        Behavior on opacity { NumberAnimation { duration: 200 } }
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: root.creditNoticeText
+        Accessible.description: root.creditNoticeDetail
+
+        Text {
+            id: noticeText
+            anchors.top: parent.top
+            anchors.topMargin: 12
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.leftMargin: 16
+            anchors.rightMargin: 16
+            text: root.creditNoticeText
+            font.pixelSize: 19
+            font.bold: true
+            color: "#FFFFFF"
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+        }
+        Text {
+            id: noticeDetail
+            anchors.top: noticeText.bottom
+            anchors.left: noticeText.left
+            anchors.right: noticeText.right
+            text: root.creditNoticeDetail
+            font.pixelSize: 14
+            color: "#FFFFFF"
+            horizontalAlignment: Text.AlignHCenter
+            elide: Text.ElideRight
+        }
+        MouseArea {
+            anchors.fill: parent
+            onClicked: root.dismissCreditNotice()
         }
     }
 

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+#include "QVTransaction.h"
+
+#include <QtCore/QList>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+
+#include <memory>
+#include <optional>
+
+// Tells the app when the user has been credited, by polling the user's history. The
+// first answered poll is the baseline: what is already credited then is not reported.
+// Crediting the balance is the service's job; this is for telling the user.
+class QUORVAMEDIA_EXPORT QVCreditsWatcher : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(int interval READ interval WRITE setInterval NOTIFY intervalChanged FINAL)
+    Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged FINAL)
+    Q_PROPERTY(bool hasBaseline READ hasBaseline NOTIFY hasBaselineChanged FINAL)
+    Q_PROPERTY(bool checking READ isChecking NOTIFY checkingChanged FINAL)
+
+public:
+    static constexpr int kDefaultInterval = 60000;
+    static constexpr int kMinimumInterval = 1000;
+
+    QVCreditsWatcher(const QString &pubId, const QString &corvelId, const QString &subId1,
+                     QObject *parent = nullptr);
+    ~QVCreditsWatcher() override;
+
+    // Milliseconds from the end of one poll to the start of the next; at least a second.
+    int interval() const;
+    void setInterval(int milliseconds);
+    // Polls once at once when switched on, then every interval; off until the host sets it.
+    bool isActive() const;
+    void setActive(bool active);
+    bool hasBaseline() const;
+    // A poll is under way.
+    bool isChecking() const;
+
+public slots:
+    // Polls now; while a poll is under way, one more follows when it ends.
+    void checkNow();
+
+signals:
+    // The transactions that are new since the last answered poll, in the reply's order.
+    void creditsReceived(const QList<QVTransaction> &transactions);
+    void intervalChanged();
+    void activeChanged();
+    void hasBaselineChanged();
+    void checkingChanged();
+
+private:
+    void sendPoll();
+    void pollEnded(const std::optional<QList<QVTransaction>> &history);
+
+    struct Private;
+    std::unique_ptr<Private> d;
+};

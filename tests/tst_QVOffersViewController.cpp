@@ -3,6 +3,7 @@
 #include "LogCapture.h"
 #include "WallHarness.h"
 
+#include <QtGui/QAccessible>
 #include <QtGui/QDesktopServices>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
@@ -42,6 +43,7 @@ private slots:
     void scrolledCellsAreReusedAndShowTheirOffers();
     void cellShowsOfferAndPayout();
     void payoutPressOpensClickAddress();
+    void creditsShowAsOneNotice();
     void closeButtonTellsTheHost();
     void qmlHostDeclaresTheWall();
 
@@ -70,6 +72,7 @@ void tst_QVOffersViewController::init()
     m_service.setOffersStalled(false);
     m_service.setProfileDropped(false);
     m_service.setPayout(1500);
+    m_service.setHistory(200, R"({"transactions":[]})");
     api->setTransferTimeout(QuorvaRestAPI::kDefaultTransferTimeout);
     m_service.server().clearRequests();
     QVImageCache::sharedImageCache()->clear();
@@ -359,17 +362,85 @@ void tst_QVOffersViewController::payoutPressOpensClickAddress()
     QDesktopServices::setUrlHandler(QStringLiteral("https"), &browser, "open");
     const auto unset = qScopeGuard([] { QDesktopServices::unsetUrlHandler(QStringLiteral("https")); });
     WallHarness harness;
+    QSignalSpy opened(harness.wall, &QVOffersViewController::offerOpened);
+    QSignalSpy shown(harness.wall, &QVOffersViewController::offersShown);
     QVERIFY(harness.show());
     QTRY_VERIFY(harness.cells().size() > 2);
+    QTRY_COMPARE(shown.count(), 1);
     QTRY_VERIFY(harness.cells()[2]->findChild<QQuickItem *>(QStringLiteral("creditsBtn"))->width() > 0);
     harness.click(harness.cells()[2]->findChild<QQuickItem *>(QStringLiteral("creditsBtn")));
     QTRY_COMPARE(browser.opened.size(), 1);
     QCOMPARE(browser.opened.first(), QUrl(QStringLiteral("https://advertiser.example/click?offer=2")));
+    QCOMPARE(opened.count(), 1);
+    const QVOffer offer = opened.first().at(0).value<QVOffer>();
+    QCOMPARE(offer.offerName(), QStringLiteral("Offer 2"));
+    QCOMPARE(offer.currencyCount(), QStringLiteral("1502"));
 
-    // An address that is not valid opens nothing.
+    // An address that is not valid opens nothing and tells nothing.
     harness.wall->onCreditsPressed(QStringLiteral("https://bad host/x"));
     harness.wall->onCreditsPressed(QString());
     QCOMPARE(browser.opened.size(), 1); // opening is synchronous: nothing more came
+    QCOMPARE(opened.count(), 1);
+
+    // Shown once per wall: a later page is not a first.
+    harness.scrollToEnd();
+    QTRY_COMPARE(harness.wall->offersList().size(), 60);
+    QVERIFY(harness.nextFrame());
+    QCOMPARE(shown.count(), 1);
+}
+
+void tst_QVOffersViewController::creditsShowAsOneNotice()
+{
+    m_service.setHistory(200, R"({"transactions":[{"offer_name":"Old","currency_adjustment":10}]})");
+    QVCreditsWatcher watcher(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
+    watcher.checkNow();
+    QTRY_VERIFY(watcher.hasBaseline());
+
+    WallHarness harness;
+    harness.wall->setCreditsWatcher(&watcher);
+    QCOMPARE(harness.wall->creditsWatcher(), &watcher);
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
+    QQuickItem *notice = harness.find(QStringLiteral("creditNotice"));
+    QVERIFY(notice);
+    QVERIFY(!notice->isVisible());
+    QSignalSpy changed(harness.wall, &QVOffersViewController::creditNoticeChanged);
+
+    m_service.setHistory(200, R"({"transactions":[{"offer_name":"Sky Quest","currency_adjustment":1500},)"
+                              R"({"offer_name":"Old","currency_adjustment":10}]})");
+    watcher.checkNow();
+    QTRY_VERIFY(harness.wall->creditNoticeShown());
+    QCOMPARE(harness.wall->creditNoticeText(), QStringLiteral("+1,500 Gems"));
+    QCOMPARE(harness.wall->creditNoticeDetail(), QStringLiteral("Sky Quest"));
+    QTRY_VERIFY(notice->isVisible());
+    // Read out as an alert.
+    QAccessibleInterface *spoken = QAccessible::queryAccessibleInterface(notice);
+    QVERIFY(spoken);
+    QCOMPARE(spoken->role(), QAccessible::AlertMessage);
+    QCOMPARE(spoken->text(QAccessible::Name), QStringLiteral("+1,500 Gems"));
+
+    // Credits in a row add up; a reversal is not a credit.
+    m_service.setHistory(200, R"({"transactions":[{"offer_name":"Reversal","currency_adjustment":-40},)"
+                              R"({"offer_name":"Daily","currency_adjustment":250},)"
+                              R"({"offer_name":"Sky Quest","currency_adjustment":1500},)"
+                              R"({"offer_name":"Old","currency_adjustment":10}]})");
+    watcher.checkNow();
+    QTRY_COMPARE(harness.wall->creditNoticeText(), QStringLiteral("+1,750 Gems"));
+    QCOMPARE(harness.wall->creditNoticeDetail(), QStringLiteral("Sky Quest, Daily"));
+    QCOMPARE(changed.count(), 2);
+
+    // It goes by itself, and a wall off screen shows nothing.
+    QTRY_VERIFY_WITH_TIMEOUT(!harness.wall->creditNoticeShown(), QVOffersViewController::kCreditNoticeMs + kPatienceMs);
+    harness.wall->setVisible(false);
+    m_service.setHistory(200, R"({"transactions":[{"offer_name":"Hidden","currency_adjustment":5},)"
+                              R"({"offer_name":"Reversal","currency_adjustment":-40},)"
+                              R"({"offer_name":"Daily","currency_adjustment":250},)"
+                              R"({"offer_name":"Sky Quest","currency_adjustment":1500},)"
+                              R"({"offer_name":"Old","currency_adjustment":10}]})");
+    QSignalSpy credits(&watcher, &QVCreditsWatcher::creditsReceived);
+    watcher.checkNow();
+    QTRY_COMPARE(credits.count(), 1);
+    QVERIFY(!harness.wall->creditNoticeShown());
 }
 
 

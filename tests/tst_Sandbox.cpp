@@ -38,6 +38,7 @@ private slots:
     void badInputIsRejectedAndNothingStored_data();
     void badInputIsRejectedAndNothingStored();
     void ticketsSurviveARestart();
+    void creditsComeFirstInTheHistory();
     void ticketsAreFiledOncePerCall_data();
     void ticketsAreFiledOncePerCall();
     void stalledPeersAreClosedAndServingGoesOn();
@@ -155,6 +156,13 @@ void tst_Sandbox::badInputIsRejectedAndNothingStored_data()
     QTest::newRow("ticket for unknown wall") << QByteArray("POST") << "/corvel/api/publisher/1042/profile/99/user/u/tickets.json"
                                              << QByteArray(R"({"name":"A","email":"a@b.c","subject_id":"1"})") << 404;
     QTest::newRow("no such endpoint") << QByteArray("GET") << "/corvel/nothing.json" << QByteArray() << 404;
+    const QString credits = QStringLiteral("/sandbox/publisher/1042/profile/7/user/u9/credits.json");
+    QTest::newRow("credit not json") << QByteArray("POST") << credits << QByteArray("500") << 400;
+    QTest::newRow("credit without a name") << QByteArray("POST") << credits << QByteArray(R"({"currency_adjustment":5})") << 400;
+    QTest::newRow("credit amount as text") << QByteArray("POST") << credits
+                                           << QByteArray(R"({"offer_name":"A","currency_adjustment":"5"})") << 400;
+    QTest::newRow("credit for unknown wall") << QByteArray("POST") << "/sandbox/publisher/1042/profile/99/user/u9/credits.json"
+                                             << QByteArray(R"({"offer_name":"A","currency_adjustment":5})") << 404;
 }
 
 void tst_Sandbox::badInputIsRejectedAndNothingStored()
@@ -168,6 +176,23 @@ void tst_Sandbox::badInputIsRejectedAndNothingStored()
     QCOMPARE(reply.status, status);
     QVERIFY2(!reply.json()[QStringLiteral("error")].toString().isEmpty(), reply.body.constData());
     QCOMPARE(raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray().size(), ticketsBefore);
+    QCOMPARE(raw("GET", QStringLiteral("/corvel/api/publisher/1042/profile/7/user/u9/transactions.json")).status, 204);
+}
+
+void tst_Sandbox::creditsComeFirstInTheHistory()
+{
+    const QString history = QStringLiteral("/corvel/api/publisher/1042/profile/7/user/u-credit/transactions.json");
+    const QString credits = QStringLiteral("/sandbox/publisher/1042/profile/7/user/u-credit/credits.json");
+    QCOMPARE(raw("GET", history).status, 204);
+    QCOMPARE(raw("POST", credits, R"({"offer_name":"First","currency_adjustment":500})").status, 201);
+    QCOMPARE(raw("POST", credits, R"({"offer_name":"Second","currency_adjustment":-20})").status, 201);
+    const QJsonArray rows = raw("GET", history).json()[QStringLiteral("transactions")].toArray();
+    QCOMPARE(rows.size(), 2);
+    QCOMPARE(rows[0][QStringLiteral("offer_name")].toString(), QStringLiteral("Second"));
+    QCOMPARE(rows[0][QStringLiteral("currency_adjustment")].toInt(), -20);
+    QCOMPARE(rows[1][QStringLiteral("offer_name")].toString(), QStringLiteral("First"));
+    const QDateTime stamped = QDateTime::fromString(rows[1][QStringLiteral("timestamp")].toString(), Qt::ISODate);
+    QVERIFY(qAbs(stamped.secsTo(QDateTime::currentDateTimeUtc())) < 600);
 }
 
 void tst_Sandbox::ticketsSurviveARestart()

@@ -52,6 +52,21 @@ int printConsoleReport(SandboxProcess &sandbox)
         };
     };
 
+    // A host preloads at start, so the wall is ready before the user opens it.
+    QElapsedTimer preloading;
+    preloading.start();
+    QVOfferWallPreload *preload = QVOffersViewController::preloadForPublisherId(
+        QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
+    const bool preloaded = await([preload](auto done) {
+        QObject::connect(preload, &QVOfferWallPreload::stateChanged, preload, [preload, done] {
+            if (preload->isReady() || preload->isFailed())
+                done();
+        });
+    }) && preload->isReady();
+    std::printf("preload: %s in %.1f ms, offers: %s\n", preloaded ? "ready" : "FAILED",
+                double(preloading.nsecsElapsed()) / 1e6, preload->hasOffers() ? "yes" : "no");
+    failures += preloaded ? 0 : 1;
+
     std::printf("User-Agent: %s\n", qPrintable(api->customUserAgent()));
     await([&](auto done) {
         api->fetchProfile([done](const QVProfile &p) {

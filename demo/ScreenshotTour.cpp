@@ -1,4 +1,5 @@
 #include "ScreenshotTour.h"
+#include "SandboxCredits.h"
 #include "SandboxProcess.h"
 #include "SupportTour.h"
 #include "Tour.h"
@@ -16,6 +17,11 @@ int ScreenshotTour::run()
     api->setServiceBaseAddress(m_sandbox.baseAddress());
     api->addCaCertificates(m_sandbox.caCertificates());
     Camera camera(m_directory);
+    // Made ahead, as a host would at start: the first phone wall takes it.
+    QVOfferWallPreload *preload = QVOffersViewController::preloadForPublisherId(
+        QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
+    if (!spinUntil([preload] { return preload->isReady() || preload->isFailed(); }) || preload->isFailed())
+        camera.fail(QStringLiteral("the preload did not become ready"));
     auto settled = [](const Scene &scene) { return [&scene] { return !scene.wall->isOverlayAnimating(); }; };
 
     for (const auto idiom : {QVDevice::Idiom::Phone, QVDevice::Idiom::Tablet}) {
@@ -47,6 +53,26 @@ int ScreenshotTour::run()
     }
 
     runSupportTour(camera, m_sandbox);
+
+    {
+        // The user completes an offer while the wall is open.
+        QVCreditsWatcher watcher(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
+        watcher.checkNow();
+        auto scene = openWall(QStringLiteral("7"), QVDevice::Idiom::Phone);
+        scene->wall->setCreditsWatcher(&watcher);
+        if (!spinUntil([&] { return watcher.hasBaseline() && !watcher.isChecking(); }))
+            camera.fail(QStringLiteral("the credits watcher never heard from the sandbox"));
+        bool stored = false;
+        creditUser(m_sandbox, QStringLiteral("7"), QStringLiteral("user-1"), QStringLiteral("Dragon Realms"), 1500,
+                   [&](bool ok) {
+                       stored = ok;
+                       watcher.checkNow();
+                   });
+        camera.shoot(*scene, QStringLiteral("phone-credit-notice"), [&] {
+            return stored && scene->wall->creditNoticeShown() && picturesShown(scene->wall)
+                && scene->find("creditNotice")->opacity() == 1.0;
+        });
+    }
 
     {
         SandboxProcess broken({QStringLiteral("--drop-connections"), QStringLiteral("--fault-path"), QStringLiteral("offers.json")});

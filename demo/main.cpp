@@ -2,6 +2,7 @@
 // With a display it opens a phone- or tablet-sized window; with --screenshots it renders
 // the main screens to PNG files and prints their paths.
 #include "ConsoleReport.h"
+#include "SandboxCredits.h"
 #include "SandboxProcess.h"
 #include "ScreenshotTour.h"
 
@@ -9,6 +10,7 @@
 
 #include <QtCore/QCommandLineParser>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QShortcut>
 #include <QtQuick/QQuickWindow>
 
 #include <cstdio>
@@ -57,13 +59,26 @@ int main(int argc, char **argv)
     QVDevice::setUserInterfaceIdiom(parser.isSet(tablet) ? QVDevice::Idiom::Tablet : QVDevice::Idiom::Phone);
     QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(sandbox.baseAddress());
     QuorvaRestAPI::sharedInstance()->addCaCertificates(sandbox.caCertificates());
+    // Targeting first, then the preload: a preload made with other targeting is not taken.
+    QuorvaRestAPI::sharedInstance()->setGender(QStringLiteral("f"));
+    QVOffersViewController::preloadForPublisherId(QStringLiteral("1042"), parser.value(wall), QStringLiteral("user-1"));
     DemoHost host;
     QQuickWindow window;
     window.resize(parser.isSet(tablet) ? QSize(1024, 768) : QSize(390, 780));
-    window.setTitle(QStringLiteral("QuorvaMedia demo"));
+    window.setTitle(QStringLiteral("QuorvaMedia demo \u2014 F2 credits the user"));
     QVOffersViewController *offerWall = QVOffersViewController::newOffersWallForPublisherId(
         QStringLiteral("1042"), parser.value(wall), QStringLiteral("user-1"), &host);
     offerWall->setGender(1);
+    QVCreditsWatcher credits(QStringLiteral("1042"), parser.value(wall), QStringLiteral("user-1"));
+    credits.setInterval(10000);
+    credits.setActive(true);
+    offerWall->setCreditsWatcher(&credits);
+    // Stands in for the user completing an offer elsewhere.
+    QShortcut creditKey(QKeySequence(Qt::Key_F2), &window);
+    QObject::connect(&creditKey, &QShortcut::activated, &credits, [&] {
+        creditUser(sandbox, parser.value(wall), QStringLiteral("user-1"), QStringLiteral("Dragon Realms"), 1500,
+                   [&credits](bool) { credits.checkNow(); });
+    });
     offerWall->setParentItem(window.contentItem());
     offerWall->setSize(window.size());
     QObject::connect(&window, &QQuickWindow::widthChanged, offerWall, [&] { offerWall->setSize(window.size()); });

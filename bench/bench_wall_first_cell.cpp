@@ -129,14 +129,29 @@ double timeFirstContent(QQuickWindow &window)
     return double(timer.nsecsElapsed()) / 1e6;
 }
 
+// A preload for the wall timeFirstCell() creates, ready and given the idle time a host's
+// user would leave it before tapping.
+bool preloadReady()
+{
+    QVOfferWallPreload *preload = QVOffersViewController::preloadForPublisherId(
+        QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
+    const bool ready = bench::waitUntil([preload] { return preload->isReady() || preload->isFailed(); })
+        && preload->isReady();
+    QDeadlineTimer idle(300);
+    bench::waitUntil([&idle] { return idle.hasExpired(); });
+    return ready;
+}
+
 // A child process: one cold measurement, printed as milliseconds.
 int runChild(const QString &mode, const QString &base, const QString &caPath)
 {
     auto window = shownWindow();
     double ms = 0;
-    if (mode == QLatin1String("--cold-wall")) {
+    if (mode == QLatin1String("--cold-wall") || mode == QLatin1String("--cold-preloaded-wall")) {
         QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(base);
         QuorvaRestAPI::sharedInstance()->addCaCertificates(QSslCertificate::fromPath(caPath));
+        if (mode == QLatin1String("--cold-preloaded-wall") && !preloadReady())
+            return 1;
         ms = timeFirstCell(*window);
     } else if (mode == QLatin1String("--cold-content")) {
         ms = timeFirstContent(*window);
@@ -196,7 +211,21 @@ int main(int argc, char **argv)
         bareMs.push_back(timeBareRequest(network, trust, address));
         wallMs.push_back(timeFirstCell(*window));
     }
+    // The same wall, preloaded, with the service 150 ms away.
+    std::vector<double> preloadedFarMs;
+    {
+        SandboxProcess far({QStringLiteral("--latency"), QStringLiteral("150")});
+        if (!far.isRunning())
+            return 1;
+        bench::useSandbox(far);
+        for (int i = 0; i < kWarmRuns; ++i) {
+            if (preloadReady())
+                preloadedFarMs.push_back(timeFirstCell(*window));
+        }
+        bench::useSandbox(sandbox);
+    }
     const std::vector<double> coldWall = coldRuns(QStringLiteral("--cold-wall"), sandbox, caPath);
+    const std::vector<double> coldPreloaded = coldRuns(QStringLiteral("--cold-preloaded-wall"), sandbox, caPath);
     const std::vector<double> coldBare = coldRuns(QStringLiteral("--cold-bare"), sandbox, caPath);
     const std::vector<double> coldContent = coldRuns(QStringLiteral("--cold-content"), sandbox, caPath);
 
@@ -208,6 +237,12 @@ int main(int argc, char **argv)
                    QStringLiteral("1.3 x bare %1 ms + one frame").arg(bare, 0, 'f', 2));
     bench::verdict("first wall of a process, cold (median)", bench::median(coldWall), 2 * cold + kFrameMs, "ms",
                    QStringLiteral("2 x cold bare %1 ms + one frame").arg(cold, 0, 'f', 2));
+    const double warmWall = bench::median(wallMs);
+    bench::verdict("preloaded wall, service 150 ms away (median)", bench::median(preloadedFarMs), 1.2 * warmWall, "ms",
+                   QStringLiteral("1.2 x warm wall %1 ms, no latency").arg(warmWall, 0, 'f', 2));
+    const double coldWallMs = bench::median(coldWall);
+    bench::verdict("first wall of a process, preloaded (median)", bench::median(coldPreloaded), 0.6 * coldWallMs, "ms",
+                   QStringLiteral("0.6 x cold wall %1 ms, no preload").arg(coldWallMs, 0, 'f', 2));
     std::printf("for reference, a fresh process's first text on a rectangle, no network: median %.2f ms over %zu "
                 "processes\n",
                 bench::median(coldContent), coldContent.size());

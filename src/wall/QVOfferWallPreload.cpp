@@ -2,6 +2,7 @@
 #include "OfferWallPreloadState.h"
 #include "QVComponentFactory.h"
 #include "QVOffersViewController.h"
+#include "QVOfferUICollectionViewCell.h"
 #include "QuorvaLog.h"
 
 #include <QtQml/QQmlComponent>
@@ -273,11 +274,24 @@ void QVOfferWallPreload::buildNextStep()
                 auto *wall = qobject_cast<QQuickItem *>(d->incubator->object());
                 QQmlEngine::setObjectOwnership(wall, QQmlEngine::CppOwnership);
                 d->builtWall = wall;
+                d->buildTimer.start();
             });
             d->component->create(*d->incubator);
         };
         connect(d->component, &QQmlComponent::statusChanged, this, incubate);
         incubate();
+        break;
+    }
+    case 2: {
+        // One cell laid out with offer texts loads the fonts the first cells use.
+        auto *cell = QVComponentFactory::create<QVOfferUICollectionViewCell>(
+            QVComponentFactory::sharedEngine(), QVOfferUICollectionViewCell::identifier());
+        if (cell) {
+            cell->setOfferName(QStringLiteral("Offer"));
+            cell->setOfferDescription(QStringLiteral("Complete the first level"));
+            cell->setPayoutTitle(QStringLiteral("+1,500"));
+            delete cell;
+        }
         break;
     }
     default:

@@ -22,6 +22,22 @@ int ScreenshotTour::run()
         QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
     if (!spinUntil([preload] { return preload->isReady() || preload->isFailed(); }) || preload->isFailed())
         camera.fail(QStringLiteral("the preload did not become ready"));
+
+    // Every screen in the wall's own look, then dark, then derived from a yellow brand.
+    const Look looks[] = {{std::nullopt, QString()},
+                          {QVTheme::dark(), QStringLiteral("-dark")},
+                          {QVTheme::fromBrandColor(QColor(0xFF, 0xD4, 0x00)), QStringLiteral("-brand")}};
+    for (const Look &look : looks) {
+        setLook(look);
+        renderScreens(camera);
+    }
+    setLook({});
+    return camera.failures() == 0 ? 0 : 1;
+}
+
+void ScreenshotTour::renderScreens(Camera &camera)
+{
+    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
     auto settled = [](const Scene &scene) { return [&scene] { return !scene.wall->isOverlayAnimating(); }; };
 
     for (const auto idiom : {QVDevice::Idiom::Phone, QVDevice::Idiom::Tablet}) {
@@ -78,7 +94,7 @@ int ScreenshotTour::run()
         SandboxProcess broken({QStringLiteral("--drop-connections"), QStringLiteral("--fault-path"), QStringLiteral("offers.json")});
         if (!broken.isRunning()) {
             camera.fail(QStringLiteral("the failing sandbox did not start"));
-            return 1;
+            return;
         }
         api->setServiceBaseAddress(broken.baseAddress());
         api->addCaCertificates(broken.caCertificates());
@@ -91,5 +107,4 @@ int ScreenshotTour::run()
         });
         api->setServiceBaseAddress(m_sandbox.baseAddress());
     }
-    return camera.failures() == 0 ? 0 : 1;
 }

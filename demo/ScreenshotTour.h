@@ -3,6 +3,7 @@
 #include <QtCore/QString>
 
 class SandboxProcess;
+namespace tour { class Camera; }
 
 // Renders the wall's main screens on a phone and a tablet to PNG files.
 class ScreenshotTour
@@ -12,6 +13,8 @@ public:
     int run();
 
 private:
+    void renderScreens(tour::Camera &camera);
+
     SandboxProcess &m_sandbox;
     QString m_directory;
 };

@@ -16,6 +16,12 @@ namespace tour {
 
 namespace {
 constexpr int kPatienceMs = 20000;
+Look g_look;
+}
+
+void setLook(const Look &look)
+{
+    g_look = look;
 }
 
 bool spinUntil(const std::function<bool()> &condition)
@@ -57,6 +63,8 @@ std::unique_ptr<Scene> openWall(const QString &wallId, QVDevice::Idiom idiom, co
     scene->window = std::make_unique<QQuickWindow>();
     scene->window->resize(idiom == QVDevice::Idiom::Tablet ? kTablet : kPhone);
     scene->wall = QVOffersViewController::newOffersWallForPublisherId(QStringLiteral("1042"), wallId, user, nullptr);
+    if (g_look.theme)
+        scene->wall->setTheme(*g_look.theme);
     scene->wall->setParentItem(scene->window->contentItem());
     scene->wall->setSize(scene->window->size());
     scene->window->show();
@@ -140,10 +148,10 @@ Camera::Camera(QString directory) : m_directory(std::move(directory))
 void Camera::shoot(const Scene &scene, const QString &name, const std::function<bool()> &ready)
 {
     if (!spinUntil(ready)) {
-        fail(name + QStringLiteral(" never became ready"));
+        fail(name + g_look.suffix + QStringLiteral(" never became ready"));
         return;
     }
-    const QString path = QDir(m_directory).filePath(name + QStringLiteral(".png"));
+    const QString path = QDir(m_directory).filePath(name + g_look.suffix + QStringLiteral(".png"));
     if (scene.window->grabWindow().save(path))
         std::printf("%s\n", qPrintable(QDir(path).absolutePath()));
     else

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class SandboxProcess;
 
@@ -14,6 +15,14 @@ namespace tour {
 
 constexpr QSize kPhone(390, 780);
 constexpr QSize kTablet(1024, 768);
+
+// The look every wall the tour opens takes, and what its screenshots' names end in.
+struct Look
+{
+    std::optional<QVTheme> theme; // none: the wall follows the system
+    QString suffix;
+};
+void setLook(const Look &look);
 
 // Runs the event loop until the condition holds; false when it never did.
 bool spinUntil(const std::function<bool()> &condition);

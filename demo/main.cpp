@@ -39,7 +39,10 @@ int main(int argc, char **argv)
                                          QStringLiteral("dir"));
     const QCommandLineOption console(QStringLiteral("console"),
                                      QStringLiteral("Print what the client receives from the sandbox and exit."));
-    parser.addOptions({tablet, wall, screenshots, console});
+    const QCommandLineOption theme(QStringLiteral("theme"),
+                                   QStringLiteral("The wall's look: light, dark or brand:#RRGGBB (the system's when unset)."),
+                                   QStringLiteral("look"));
+    parser.addOptions({tablet, wall, screenshots, console, theme});
     parser.process(app);
 
     SandboxProcess sandbox;
@@ -69,6 +72,19 @@ int main(int argc, char **argv)
     QVOffersViewController *offerWall = QVOffersViewController::newOffersWallForPublisherId(
         QStringLiteral("1042"), parser.value(wall), QStringLiteral("user-1"), &host);
     offerWall->setGender(1);
+    if (parser.isSet(theme)) {
+        const QString look = parser.value(theme);
+        if (look == QLatin1String("light")) {
+            offerWall->setTheme(QVTheme::light());
+        } else if (look == QLatin1String("dark")) {
+            offerWall->setTheme(QVTheme::dark());
+        } else if (look.startsWith(QLatin1String("brand:")) && QColor::isValidColorName(look.mid(6))) {
+            offerWall->setTheme(QVTheme::fromBrandColor(QColor::fromString(look.mid(6))));
+        } else {
+            std::fprintf(stderr, "quorva-demo: --theme takes light, dark or brand:#RRGGBB\n");
+            return 2;
+        }
+    }
     QVCreditsWatcher credits(QStringLiteral("1042"), parser.value(wall), QStringLiteral("user-1"));
     credits.setInterval(10000);
     credits.setActive(true);

@@ -14,6 +14,7 @@
 #include <QuorvaMedia/QVCreditsWatcher.h>
 #include <QuorvaMedia/QVDevice.h>
 #include <QuorvaMedia/QVColor.h>
+#include <QuorvaMedia/QVTheme.h>
 #include <QuorvaMedia/QVImageCache.h>
 #include <QuorvaMedia/QVImageView.h>
 #include <QuorvaMedia/QVOfferUICollectionViewCell.h>

@@ -5,6 +5,7 @@
 
 #include <QtGui/QAccessible>
 #include <QtGui/QDesktopServices>
+#include <QtGui/QPalette>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 
@@ -44,6 +45,7 @@ private slots:
     void cellShowsOfferAndPayout();
     void payoutPressOpensClickAddress();
     void creditsShowAsOneNotice();
+    void themeColoursTheWallWhileOpen();
     void closeButtonTellsTheHost();
     void qmlHostDeclaresTheWall();
 
@@ -444,6 +446,56 @@ void tst_QVOffersViewController::creditsShowAsOneNotice()
 }
 
 
+
+namespace {
+// True when the grabbed pixel is the colour, give or take the rasteriser's rounding.
+bool drawnIn(const QImage &frame, QPointF at, const QColor &colour)
+{
+    const QColor pixel = frame.pixelColor(at.toPoint() * frame.devicePixelRatio());
+    return qAbs(pixel.red() - colour.red()) <= 3 && qAbs(pixel.green() - colour.green()) <= 3
+        && qAbs(pixel.blue() - colour.blue()) <= 3;
+}
+} // namespace
+
+void tst_QVOffersViewController::themeColoursTheWallWhileOpen()
+{
+    WallHarness harness;
+    QCOMPARE(harness.wall->theme(), QVTheme::light()); // the system's, here a light one
+    harness.wall->setTheme(QVTheme::dark());
+    QVERIFY(harness.show());
+    QTRY_VERIFY(harness.cells().size() > 1);
+    QQuickItem *card = harness.cells().first()->findChild<QQuickItem *>(QStringLiteral("containerView"));
+    // Points on the header's leading edge, between two cells, and inside the first card.
+    const QPointF headerPoint(2, 40);
+    const QPointF backgroundPoint(harness.window->width() / 2.0, harness.wall->headerHeight() + 2);
+    const QPointF cardPoint = card->mapToScene(QPointF(card->width() - 24, 10));
+    auto frameShows = [&](const QVTheme &theme) {
+        const QImage frame = harness.window->grabWindow();
+        return drawnIn(frame, headerPoint, theme.headerStart) && drawnIn(frame, backgroundPoint, theme.background)
+            && drawnIn(frame, cardPoint, theme.card);
+    };
+    QVERIFY(frameShows(QVTheme::dark()));
+
+    QSignalSpy changed(harness.wall, &QVOffersViewController::themeChanged);
+    const QVTheme brand = QVTheme::fromBrandColor(QColor(0xFF, 0xD4, 0x00));
+    harness.wall->setTheme(brand);
+    QCOMPARE(changed.count(), 1);
+    QTRY_VERIFY(frameShows(brand));
+    harness.wall->setTheme(brand);
+    QCOMPARE(changed.count(), 1);
+
+    // A wall the host gave no theme follows the system's switch to dark while it is open.
+    WallHarness following;
+    QSignalSpy followed(following.wall, &QVOffersViewController::themeChanged);
+    const QPalette original = QGuiApplication::palette();
+    const auto restore = qScopeGuard([&] { QGuiApplication::setPalette(original); });
+    QPalette dark = original;
+    dark.setColor(QPalette::Window, QColor(0x1C, 0x1C, 0x20));
+    QGuiApplication::setPalette(dark);
+    QTRY_COMPARE(following.wall->theme(), QVTheme::dark());
+    QCOMPARE(followed.count(), 1);
+    QCOMPARE(harness.wall->theme(), brand); // a theme the host set stays
+}
 
 void tst_QVOffersViewController::closeButtonTellsTheHost()
 {

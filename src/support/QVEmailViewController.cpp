@@ -12,6 +12,7 @@
 #include <QtCore/QPropertyAnimation>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QInputMethod>
+#include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
 
 #include <algorithm>
@@ -33,7 +34,7 @@ QVEmailViewController::~QVEmailViewController() = default;
 template <typename Piece>
 Piece *QVEmailViewController::loadPiece(const char *objectName)
 {
-    auto *piece = QVComponentFactory::create<Piece>(qmlEngine(this), Piece::identifier());
+    auto *piece = QVComponentFactory::create<Piece>(qmlEngine(this), Piece::identifier(), {}, qmlContext(this));
     if (!piece)
         return nullptr;
     // Owned here for the form's whole life, in or out of the content view, so a piece

@@ -18,6 +18,8 @@ class QUORVAMEDIA_EXPORT QVEnterInformationView : public QVFormFieldView
     Q_PROPERTY(QString nameIconName READ nameIconName NOTIFY looksChanged FINAL)
     Q_PROPERTY(QString emailIconName READ emailIconName NOTIFY looksChanged FINAL)
     Q_PROPERTY(QColor emailTextColor READ emailTextColor NOTIFY looksChanged FINAL)
+    // The address is shown in the theme's error colour.
+    Q_PROPERTY(bool emailShowsError READ emailShowsError NOTIFY looksChanged FINAL)
 
 public:
     using QVFormFieldView::QVFormFieldView;
@@ -28,6 +30,7 @@ public:
     QString nameIconName() const { return m_nameIconName; }
     QString emailIconName() const { return m_emailIconName; }
     QColor emailTextColor() const { return m_emailTextColor; }
+    bool emailShowsError() const { return m_emailTextColor != QColor(Qt::black); }
 
 signals:
     void outletsChanged();

@@ -6,6 +6,7 @@
 #include "QVKeyboard.h"
 #include "QVNotificationCenter.h"
 
+#include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
 
 namespace {
@@ -36,7 +37,7 @@ void QVSupportViewController::viewDidLoad()
 template <typename Child>
 Child *QVSupportViewController::createChild(const char *objectName)
 {
-    auto *child = QVComponentFactory::create<Child>(qmlEngine(this), Child::identifier());
+    auto *child = QVComponentFactory::create<Child>(qmlEngine(this), Child::identifier(), {}, qmlContext(this));
     if (!child)
         return nullptr;
     child->setParent(this);

@@ -21,6 +21,8 @@ class QUORVAMEDIA_EXPORT QVSupportViewController : public QQuickItem, public QVE
     Q_PROPERTY(QQuickItem *segmentedControl MEMBER m_segmentedControl NOTIFY outletsChanged FINAL)
     Q_PROPERTY(QQuickItem *errorLabel MEMBER m_errorLabel NOTIFY outletsChanged FINAL)
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY backgroundColorChanged FINAL)
+    // The form's grey is shown: the theme's background rather than its card colour.
+    Q_PROPERTY(bool showsFormBackground READ showsFormBackground NOTIFY backgroundColorChanged FINAL)
     Q_PROPERTY(qreal childTop READ childTop CONSTANT FINAL)
     Q_PROPERTY(qreal errorCornerRadius READ errorCornerRadius CONSTANT FINAL)
 
@@ -35,6 +37,7 @@ public:
     static qreal errorCornerRadius() { return 4; }
 
     QColor backgroundColor() const { return m_backgroundColor; }
+    bool showsFormBackground() const { return m_backgroundColor != QColor(Qt::white); }
     QQuickItem *errorLabel() const { return m_errorLabel; }
 
     QVFAQViewController *faqViewController();

@@ -1,6 +1,7 @@
 #include "QVAlertPresenter.h"
 #include "QVComponentFactory.h"
 
+#include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
 
@@ -11,7 +12,8 @@ QObject *QVAlertPresenter::present(QQuickItem *over, const QString &title, const
                                                 {{QStringLiteral("parent"), QVariant::fromValue(over)},
                                                  {QStringLiteral("title"), title},
                                                  {QStringLiteral("message"), message},
-                                                 {QStringLiteral("actionTitle"), actionTitle}});
+                                                 {QStringLiteral("actionTitle"), actionTitle}},
+                                                qmlContext(over));
     if (!alert)
         return nullptr;
     // The alert belongs to the item it covers and removes itself once dismissed.

@@ -1,10 +1,12 @@
 #include "QVComponentFactory.h"
 #include "QuorvaLog.h"
+#include "QVTheme.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QHash>
 #include <QtCore/QUrl>
 #include <QtQml/QQmlComponent>
+#include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
 
 namespace {
@@ -32,18 +34,25 @@ QUrl QVComponentFactory::urlFor(const QString &typeName)
 
 QQmlEngine *QVComponentFactory::sharedEngine()
 {
-    static QQmlEngine *engine = new QQmlEngine(QCoreApplication::instance());
+    static QQmlEngine *engine = [] {
+        auto *e = new QQmlEngine(QCoreApplication::instance());
+        // What a screen made outside any wall reads; inside a wall the wall's own theme
+        // is found first.
+        e->rootContext()->setContextProperty(QStringLiteral("theme"), QVariant::fromValue(QVTheme::light()));
+        return e;
+    }();
     return engine;
 }
 
-QObject *QVComponentFactory::create(QQmlEngine *engine, const QString &typeName, const QVariantMap &properties)
+QObject *QVComponentFactory::create(QQmlEngine *engine, const QString &typeName, const QVariantMap &properties,
+                                    QQmlContext *context)
 {
     if (!engine)
         engine = sharedEngine();
     QQmlComponent *component = componentFor(engine, typeName);
     // Creating from a component with errors must not be attempted: report instead.
     QObject *object = component->isReady()
-        ? component->createWithInitialProperties(properties, engine->rootContext())
+        ? component->createWithInitialProperties(properties, context ? context : engine->rootContext())
         : nullptr;
     if (!object) {
         qCWarning(lcQuorvaDiagnostics).noquote() << "cannot create" << typeName << ":" << component->errorString();

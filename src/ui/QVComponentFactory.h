@@ -7,6 +7,7 @@
 #include <QtCore/QUrl>
 #include <QtCore/QVariantMap>
 
+class QQmlContext;
 class QQmlEngine;
 class QQuickItem;
 
@@ -22,12 +23,16 @@ public:
 
     // Creates the type named after an interface file ("QVFiltersViewController") with
     // the given properties set before completion. Returns nullptr and logs on failure.
-    static QObject *create(QQmlEngine *engine, const QString &typeName, const QVariantMap &properties = {});
+    // Made in the context of the item that creates it, an object sees that item's wall
+    // (its theme) as the wall's own children do.
+    static QObject *create(QQmlEngine *engine, const QString &typeName, const QVariantMap &properties = {},
+                           QQmlContext *context = nullptr);
 
     template <typename T>
-    static T *create(QQmlEngine *engine, const QString &typeName, const QVariantMap &properties = {})
+    static T *create(QQmlEngine *engine, const QString &typeName, const QVariantMap &properties = {},
+                     QQmlContext *context = nullptr)
     {
-        QObject *object = create(engine, typeName, properties);
+        QObject *object = create(engine, typeName, properties, context);
         T *typed = qobject_cast<T *>(object);
         if (object && !typed)
             delete object;

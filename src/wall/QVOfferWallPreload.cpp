@@ -284,8 +284,11 @@ void QVOfferWallPreload::buildNextStep()
     }
     case 2: {
         // One cell laid out with offer texts loads the fonts the first cells use.
+        if (!d->builtWall)
+            break;
         auto *cell = QVComponentFactory::create<QVOfferUICollectionViewCell>(
-            QVComponentFactory::sharedEngine(), QVOfferUICollectionViewCell::identifier());
+            QVComponentFactory::sharedEngine(), QVOfferUICollectionViewCell::identifier(), {},
+            qmlContext(d->builtWall));
         if (cell) {
             cell->setOfferName(QStringLiteral("Offer"));
             cell->setOfferDescription(QStringLiteral("Complete the first level"));

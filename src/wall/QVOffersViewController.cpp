@@ -49,6 +49,32 @@ QVOffersViewController::QVOffersViewController(QQuickItem *parent)
     m_creditNoticeTimer->setSingleShot(true);
     m_creditNoticeTimer->setInterval(kCreditNoticeMs);
     connect(m_creditNoticeTimer, &QTimer::timeout, this, &QVOffersViewController::dismissCreditNotice);
+    m_theme = QVTheme::system();
+    // The palette changes when the system switches between light and dark.
+    if (QCoreApplication *app = QCoreApplication::instance())
+        app->installEventFilter(this);
+}
+
+void QVOffersViewController::setTheme(const QVTheme &theme)
+{
+    m_themeSet = true;
+    if (m_theme == theme)
+        return;
+    m_theme = theme;
+    emit themeChanged();
+}
+
+bool QVOffersViewController::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::ApplicationPaletteChange && watched == QCoreApplication::instance()
+        && !m_themeSet) {
+        const QVTheme system = QVTheme::system();
+        if (!(system == m_theme)) {
+            m_theme = system;
+            emit themeChanged();
+        }
+    }
+    return QQuickItem::eventFilter(watched, event);
 }
 
 int QVOffersViewController::offerCount() const

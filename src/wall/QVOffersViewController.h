@@ -8,6 +8,7 @@
 #include "QVProfile.h"
 #include "QVSort.h"
 #include "QVSupportViewController.h"
+#include "QVTheme.h"
 #include "QVTransaction.h"
 
 #include <QtCore/QPointer>
@@ -75,6 +76,8 @@ class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
     Q_PROPERTY(bool overlayAnimating READ isOverlayAnimating NOTIFY overlayAnimatingChanged FINAL)
     Q_PROPERTY(bool loadFailed READ loadFailed NOTIFY loadFailedChanged FINAL)
     Q_PROPERTY(QQuickItem *creditNotice MEMBER m_creditNotice NOTIFY outletsChanged FINAL)
+    // Every screen, panel, popover and alert of the wall reads its colours from here.
+    Q_PROPERTY(QVTheme theme READ theme WRITE setTheme NOTIFY themeChanged FINAL)
     Q_PROPERTY(bool creditNoticeShown READ creditNoticeShown NOTIFY creditNoticeChanged FINAL)
     Q_PROPERTY(QString creditNoticeText READ creditNoticeText NOTIFY creditNoticeChanged FINAL)
     Q_PROPERTY(QString creditNoticeDetail READ creditNoticeDetail NOTIFY creditNoticeChanged FINAL)
@@ -103,6 +106,11 @@ public:
     QString creditNoticeText() const { return m_creditNoticeText; }
     QString creditNoticeDetail() const { return m_creditNoticeDetail; }
     static constexpr int kCreditNoticeMs = 4000;
+
+    // Until a host sets one, the wall follows the system's light or dark look, also
+    // while it is open.
+    QVTheme theme() const { return m_theme; }
+    void setTheme(const QVTheme &theme);
 
     QVOffersViewControllerDelegate *delegate() const { return m_delegate; }
     void setDelegate(QVOffersViewControllerDelegate *delegate) { m_delegate = delegate; }
@@ -198,6 +206,7 @@ signals:
     void offerCountChanged();
     void showsLoadingIndicatorChanged();
     void creditNoticeChanged();
+    void themeChanged();
     // An offer's click address was handed to the browser.
     void offerOpened(const QVOffer &offer);
     // The wall's first offers are on screen; once per wall.
@@ -208,6 +217,7 @@ protected:
     void componentComplete() override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void updatePolish() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void viewDidLoad();
@@ -293,4 +303,6 @@ private:
     QString m_creditNoticeText;
     QString m_creditNoticeDetail;
     QQuickItem *m_creditNotice = nullptr;
+    QVTheme m_theme;
+    bool m_themeSet = false;
 };

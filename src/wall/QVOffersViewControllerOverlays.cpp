@@ -8,6 +8,7 @@
 #include "QVSupportViewController.h"
 
 #include <QtCore/QPropertyAnimation>
+#include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
 
 namespace {
@@ -51,7 +52,8 @@ void QVOffersViewController::onFilterPressed()
         return;
     }
     if (!m_isFiltersViewOpen) {
-        auto *panel = QVComponentFactory::create<QVFiltersViewController>(qmlEngine(this), kFiltersType);
+        auto *panel = QVComponentFactory::create<QVFiltersViewController>(qmlEngine(this), kFiltersType, {},
+                                                                            qmlContext(this));
         if (!panel)
             return;
         // Owned by the wall: a panel still sliding out when the wall goes goes with it.
@@ -77,7 +79,8 @@ void QVOffersViewController::onFilterPressed()
     attachPhoneOverlay(panel, kFiltersTitle);
     panel->setClip(true);
     m_blurView = QVComponentFactory::create<QQuickItem>(
-        qmlEngine(this), kBlurViewType, {{QStringLiteral("sourceItem"), QVariant::fromValue(m_collectionView)}});
+        qmlEngine(this), kBlurViewType, {{QStringLiteral("sourceItem"), QVariant::fromValue(m_collectionView)}},
+        qmlContext(this));
     if (m_blurView) {
         m_blurView->setParent(panel);
         m_blurView->setParentItem(panel);
@@ -185,7 +188,8 @@ void QVOffersViewController::onSupportPressed()
         return;
     }
     if (!m_isSupportViewOpen) {
-        auto *support = QVComponentFactory::create<QVSupportViewController>(qmlEngine(this), kSupportType);
+        auto *support = QVComponentFactory::create<QVSupportViewController>(qmlEngine(this), kSupportType, {},
+                                                                            qmlContext(this));
         if (!support)
             return;
         support->setParent(this);
@@ -223,7 +227,8 @@ QObject *QVOffersViewController::popover(QObject *&popover, const char *typeName
     if (popover)
         return popover;
     popover = QVComponentFactory::create(qmlEngine(this), QLatin1StringView(typeName),
-                                         {{QStringLiteral("parent"), QVariant::fromValue(static_cast<QQuickItem *>(this))}});
+                                         {{QStringLiteral("parent"), QVariant::fromValue(static_cast<QQuickItem *>(this))}},
+                                         qmlContext(this));
     if (!popover)
         return nullptr;
     popover->setParent(this);

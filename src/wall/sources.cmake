@@ -8,10 +8,12 @@ list(APPEND QUORVA_PUBLIC_HEADERS
     ui/QVImageView.h
     ui/QVImageCache.h
     ui/QVColor.h
+    ui/QVTheme.h
 )
 
 set(QUORVA_UI_SOURCES
     ui/QVColor.cpp
+    ui/QVTheme.cpp
     ui/QVSpringCurve.h ui/QVSpringCurve.cpp
     ui/QVImageCache.cpp
     ui/QVImageView.cpp

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 
 // A row of a checkmark chooser: its text and the checkmark that marks the choice. The
@@ -20,14 +21,14 @@ AbstractButton {
     Keys.onEnterPressed: clicked()
 
     background: Rectangle {
-        color: row.down ? "#F0F0F5" : "transparent"
+        color: row.down ? theme.tint(theme.card, theme.textPrimary, 0.06) : "transparent"
         Rectangle {
             anchors.fill: parent
             anchors.margins: 2
             radius: 8
             color: "transparent"
             border.width: 2
-            border.color: "#3F51D8"
+            border.color: theme.accent
             visible: row.visualFocus
         }
         Rectangle {
@@ -36,7 +37,7 @@ AbstractButton {
             anchors.bottom: parent.bottom
             anchors.leftMargin: 16
             height: 1
-            color: "#ECECF2"
+            color: theme.separator
             visible: !row.last
         }
     }
@@ -50,12 +51,12 @@ AbstractButton {
             text: row.text
             font.pixelSize: 15
             font.bold: check.visible
-            color: "#15151E"
+            color: theme.textPrimary
             wrapMode: Text.Wrap
             maximumLineCount: 2
             elide: Text.ElideRight
         }
-        Image {
+        ColorImage {
             id: check
             objectName: row.checkmarkName
             anchors.right: parent.right
@@ -64,6 +65,7 @@ AbstractButton {
             width: 22
             height: 22
             source: "icons/checkmark.svg"
+            color: theme.accent
             sourceSize: Qt.size(44, 44)
             visible: false
         }

@@ -10,9 +10,9 @@ Rectangle {
     implicitWidth: Math.max(160, label.implicitWidth + 48)
     implicitHeight: 44
     radius: 6
-    color: tap.pressed ? "#2D3BB0" : "#3F51D8"
+    color: tap.pressed ? theme.tint(theme.accent, theme.textPrimary, 0.2) : theme.accent
     border.width: activeFocus ? 3 : 0
-    border.color: "#1B2586"
+    border.color: theme.textPrimary
     activeFocusOnTab: true
     Accessible.role: Accessible.Button
     Accessible.name: text
@@ -27,7 +27,7 @@ Rectangle {
         text: button.text
         font.pixelSize: 16
         font.bold: true
-        color: "#FFFFFF"
+        color: theme.card
     }
     MouseArea {
         id: tap

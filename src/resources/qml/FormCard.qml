@@ -2,8 +2,8 @@ import QtQuick
 
 // The white card every piece of the ticket form sits on.
 Rectangle {
-    radius: 10
-    color: "#FFFFFF"
+    radius: theme.cornerRadius
+    color: theme.card
     border.width: 1
-    border.color: "#E3E3EA"
+    border.color: theme.separator
 }

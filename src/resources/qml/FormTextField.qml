@@ -11,8 +11,8 @@ TextField {
     leftPadding: 0
     rightPadding: clear.visible ? clear.width + 4 : 0
     font.pixelSize: 16
-    color: "#15151E"
-    placeholderTextColor: "#9A9AA8"
+    color: theme.textPrimary
+    placeholderTextColor: theme.textSecondary
     selectByMouse: true
     background: Item {}
 
@@ -31,12 +31,12 @@ TextField {
         onClicked: field.clearPressed()
         background: Rectangle {
             radius: width / 2
-            color: clear.down ? "#C9C9D3" : "#E3E3EA"
+            color: clear.down ? theme.tint(theme.separator, theme.textPrimary, 0.15) : theme.separator
         }
         contentItem: Text {
             text: clear.text
             font: clear.font
-            color: "#5F5F6E"
+            color: theme.textSecondary
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
         }

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.impl
 
 // A round icon button of the wall's header. Plain Qt Quick, so the wall's first screen
 // loads no control style.
@@ -22,16 +23,17 @@ Item {
     Rectangle {
         anchors.fill: parent
         radius: width / 2
-        color: tap.pressed ? "#33FFFFFF" : "transparent"
+        color: tap.pressed ? theme.withAlpha(theme.headerText, 0.2) : "transparent"
         border.width: button.activeFocus ? 2 : 0
-        border.color: "#FFFFFF"
+        border.color: theme.headerText
     }
-    Image {
+    ColorImage {
         anchors.centerIn: parent
         width: 24
         height: 24
         source: button.icon
         sourceSize: Qt.size(48, 48)
+        color: theme.headerText
     }
     MouseArea {
         id: tap

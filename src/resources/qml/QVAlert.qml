@@ -17,8 +17,8 @@ Dialog {
     topPadding: 0
 
     background: Rectangle {
-        radius: 14
-        color: "#F7F7F9"
+        radius: theme.cornerRadius + 4
+        color: theme.card
     }
 
     header: Label {
@@ -30,7 +30,7 @@ Dialog {
         font.bold: true
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.WordWrap
-        color: "#111118"
+        color: theme.textPrimary
     }
 
     contentItem: Label {
@@ -42,7 +42,7 @@ Dialog {
         font.pixelSize: 14
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.WordWrap
-        color: "#3C3C46"
+        color: theme.textSecondary
     }
 
     footer: Item {
@@ -50,7 +50,7 @@ Dialog {
         Rectangle {
             width: parent.width
             height: 1
-            color: "#DCDCE2"
+            color: theme.separator
         }
         Button {
             objectName: "alertAction"
@@ -65,13 +65,13 @@ Dialog {
             font.bold: true
             onClicked: alert.close()
             background: Rectangle {
-                color: parent.pressed ? "#E6E6EC" : "transparent"
+                color: parent.pressed ? theme.tint(theme.card, theme.textPrimary, 0.06) : "transparent"
                 radius: 14
             }
             contentItem: Label {
                 text: parent.text
                 font: parent.font
-                color: "#3F51D8"
+                color: theme.accent
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
             }

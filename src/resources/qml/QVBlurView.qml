@@ -21,7 +21,7 @@ Item {
     }
     Rectangle {
         anchors.fill: parent
-        color: "#FFFFFF"
+        color: theme.background
         opacity: 0.62
     }
 }

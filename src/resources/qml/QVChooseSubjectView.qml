@@ -29,7 +29,7 @@ QVChooseSubjectViewBase {
             font.bold: true
             font.capitalization: Font.AllUppercase
             font.letterSpacing: 0.6
-            color: "#4B4B9A"
+            color: theme.accent
         }
         Column {
             anchors.top: title.bottom

@@ -32,13 +32,13 @@ QVEmailViewControllerBase {
         height: 250
         opacity: 0
         visible: opacity > 0
-        color: "#FFFFFF"
+        color: theme.card
 
         Rectangle {
             anchors.left: parent.left
             anchors.right: parent.right
             height: 1
-            color: "#DCDCE2"
+            color: theme.separator
         }
         Text {
             anchors.left: parent.left
@@ -47,7 +47,7 @@ QVEmailViewControllerBase {
             text: "When did you complete it?"
             font.pixelSize: 15
             font.bold: true
-            color: "#15151E"
+            color: theme.textPrimary
         }
         Button {
             id: done
@@ -66,7 +66,7 @@ QVEmailViewControllerBase {
                 text: done.text
                 font.pixelSize: 16
                 font.bold: true
-                color: "#3F51D8"
+                color: theme.accent
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
             }
@@ -86,7 +86,7 @@ QVEmailViewControllerBase {
                 width: parent.width
                 height: 36
                 radius: 8
-                color: "#F0F0F5"
+                color: theme.tint(theme.card, theme.textPrimary, 0.06)
             }
             Row {
                 anchors.fill: parent
@@ -97,6 +97,7 @@ QVEmailViewControllerBase {
                     visibleItemCount: 5
                     currentIndex: picker.monthIndex
                     onCurrentIndexChanged: picker.pickMonth(currentIndex)
+                    delegate: wheelRow
                     Accessible.name: "Month"
                 }
                 Tumbler {
@@ -110,6 +111,7 @@ QVEmailViewControllerBase {
                         required property int index
                         text: index + 1
                         font.pixelSize: 17
+                        color: theme.textPrimary
                         opacity: 1.0 - Math.abs(Tumbler.displacement) / 3
                         horizontalAlignment: Text.AlignHCenter
                         verticalAlignment: Text.AlignVCenter
@@ -124,9 +126,25 @@ QVEmailViewControllerBase {
                     wrap: false
                     currentIndex: picker.yearIndex
                     onCurrentIndexChanged: picker.pickYear(currentIndex)
+                    delegate: wheelRow
                     Accessible.name: "Year"
                 }
             }
+        }
+    }
+
+    // A row of the month and year wheels, in the theme's text colour.
+    Component {
+        id: wheelRow
+        Text {
+            required property int index
+            required property var modelData
+            text: modelData
+            font.pixelSize: 17
+            color: theme.textPrimary
+            opacity: 1.0 - Math.abs(Tumbler.displacement) / 3
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
         }
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -17,7 +18,7 @@ QVEnterCommentViewBase {
         anchors.topMargin: 0
         anchors.bottomMargin: 6
 
-        Image {
+        ColorImage {
             id: icon
             objectName: "commentIcon"
             x: 14
@@ -25,6 +26,7 @@ QVEnterCommentViewBase {
             width: 24
             height: 24
             source: "icons/" + view.commentIconName
+            color: view.commentIconName.endsWith("_error") ? theme.error : theme.textSecondary
             sourceSize: Qt.size(48, 48)
         }
         TextArea {
@@ -40,9 +42,9 @@ QVEnterCommentViewBase {
             leftPadding: 0
             rightPadding: 0
             font.pixelSize: 16
-            color: "#15151E"
+            color: theme.textPrimary
             placeholderText: "Tell us what happened"
-            placeholderTextColor: "#9A9AA8"
+            placeholderTextColor: theme.textSecondary
             wrapMode: TextEdit.Wrap
             selectByMouse: true
             background: Item {}
@@ -61,7 +63,7 @@ QVEnterCommentViewBase {
             anchors.bottomMargin: 10
             text: view.counterText
             font.pixelSize: 13
-            color: "#8A8A99"
+            color: theme.textSecondary
             Accessible.role: Accessible.StaticText
             Accessible.name: text + " characters left"
         }

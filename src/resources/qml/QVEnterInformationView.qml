@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -20,7 +21,7 @@ QVEnterInformationViewBase {
         anchors.margins: 12
         anchors.bottomMargin: 6
 
-        Image {
+        ColorImage {
             id: nameIconImage
             objectName: "nameIcon"
             x: 14
@@ -28,6 +29,7 @@ QVEnterInformationViewBase {
             width: 24
             height: 24
             source: "icons/" + view.nameIconName
+            color: view.nameIconName.endsWith("_error") ? theme.error : theme.textSecondary
             sourceSize: Qt.size(48, 48)
         }
         FormTextField {
@@ -49,9 +51,9 @@ QVEnterInformationViewBase {
             anchors.right: parent.right
             y: parent.height / 2
             height: 1
-            color: "#ECECF2"
+            color: theme.separator
         }
-        Image {
+        ColorImage {
             id: emailIconImage
             objectName: "emailIcon"
             x: 14
@@ -59,6 +61,7 @@ QVEnterInformationViewBase {
             width: 24
             height: 24
             source: "icons/" + view.emailIconName
+            color: view.emailIconName.endsWith("_error") ? theme.error : theme.textSecondary
             sourceSize: Qt.size(48, 48)
         }
         FormTextField {
@@ -71,7 +74,7 @@ QVEnterInformationViewBase {
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 8
             height: 40
-            color: view.emailTextColor
+            color: view.emailShowsError ? theme.error : theme.textPrimary
             placeholderText: "Email address"
             inputMethodHints: Qt.ImhEmailCharactersOnly | Qt.ImhNoAutoUppercase
             Accessible.name: "Email address"

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -16,7 +17,7 @@ QVEnterOfferTitleViewBase {
         anchors.topMargin: 0
         anchors.bottomMargin: 6
 
-        Image {
+        ColorImage {
             id: icon
             objectName: "nameIcon"
             x: 14
@@ -24,6 +25,7 @@ QVEnterOfferTitleViewBase {
             width: 24
             height: 24
             source: "icons/" + view.nameIconName
+            color: view.nameIconName.endsWith("_error") ? theme.error : theme.textSecondary
             sourceSize: Qt.size(48, 48)
         }
         FormTextField {

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -23,9 +24,9 @@ QVFilterUICollectionViewCellBase {
 
     Rectangle {
         anchors.fill: parent
-        color: tap.pressed ? "#14000000" : "transparent"
+        color: tap.pressed ? theme.tint(theme.card, theme.textPrimary, 0.06) : "transparent"
         border.width: cell.activeFocus ? 2 : 0
-        border.color: "#3F51D8"
+        border.color: theme.accent
     }
     Label {
         id: label
@@ -38,10 +39,10 @@ QVFilterUICollectionViewCellBase {
         text: cell.title
         font.pixelSize: 16
         font.bold: cell.selected
-        color: "#15151E"
+        color: theme.textPrimary
         elide: Text.ElideRight
     }
-    Image {
+    ColorImage {
         id: check
         objectName: "checkmarkImage"
         anchors.right: parent.right
@@ -50,6 +51,7 @@ QVFilterUICollectionViewCellBase {
         width: 22
         height: 22
         source: "icons/checkmark.svg"
+        color: theme.accent
         sourceSize: Qt.size(44, 44)
         visible: false
     }
@@ -59,7 +61,7 @@ QVFilterUICollectionViewCellBase {
         anchors.bottom: parent.bottom
         anchors.leftMargin: 20
         height: 1
-        color: "#1F000000"
+        color: theme.separator
     }
     MouseArea {
         id: tap

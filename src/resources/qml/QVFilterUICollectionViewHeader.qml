@@ -22,6 +22,6 @@ QVFilterUICollectionViewHeaderBase {
         font.pixelSize: 13
         font.bold: true
         font.letterSpacing: 0.8
-        color: "#4B4B9A"
+        color: theme.accent
     }
 }

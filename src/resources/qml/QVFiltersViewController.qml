@@ -62,13 +62,13 @@ QVFiltersViewControllerBase {
         onClicked: panel.onSavedPressed()
         background: Rectangle {
             radius: panel.cornerRadius
-            color: save.pressed ? "#2D3BB0" : "#3F51D8"
+            color: save.pressed ? theme.tint(theme.accent, theme.textPrimary, 0.2) : theme.accent
         }
         contentItem: Label {
             text: save.text
             font.pixelSize: 17
             font.bold: true
-            color: "#FFFFFF"
+            color: theme.card
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
         }

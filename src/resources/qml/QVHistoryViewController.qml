@@ -36,7 +36,7 @@ QVHistoryViewControllerBase {
         text: "No offers completed yet"
         font.pixelSize: 19
         font.bold: true
-        color: "#2B2B36"
+        color: theme.textPrimary
     }
     Label {
         anchors.top: empty.bottom
@@ -46,7 +46,7 @@ QVHistoryViewControllerBase {
         visible: empty.visible
         text: "Offers you complete show up here once they are credited."
         font.pixelSize: 15
-        color: "#5F5F6E"
+        color: theme.textSecondary
         wrapMode: Text.WordWrap
         horizontalAlignment: Text.AlignHCenter
     }

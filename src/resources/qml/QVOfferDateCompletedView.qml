@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -16,7 +17,7 @@ QVOfferDateCompletedViewBase {
         anchors.topMargin: 6
         anchors.bottomMargin: 6
 
-        Image {
+        ColorImage {
             id: icon
             objectName: "dateIcon"
             anchors.left: parent.left
@@ -25,6 +26,7 @@ QVOfferDateCompletedViewBase {
             width: 24
             height: 24
             source: "icons/" + view.dateIconName
+            color: view.dateIconName.endsWith("_error") ? theme.error : theme.textSecondary
             sourceSize: Qt.size(48, 48)
         }
         Text {
@@ -33,7 +35,7 @@ QVOfferDateCompletedViewBase {
             anchors.verticalCenter: parent.verticalCenter
             text: "Completed on"
             font.pixelSize: 16
-            color: "#5F5F6E"
+            color: theme.textSecondary
         }
         Button {
             id: button
@@ -49,15 +51,15 @@ QVOfferDateCompletedViewBase {
             Keys.onEnterPressed: clicked()
             background: Rectangle {
                 radius: 8
-                color: button.down ? "#DDE1F7" : "#EEF0FB"
+                color: theme.tint(theme.card, theme.accent, button.down ? 0.18 : 0.09)
                 border.width: button.visualFocus ? 2 : 0
-                border.color: "#3F51D8"
+                border.color: theme.accent
             }
             contentItem: Text {
                 text: button.text
                 font.pixelSize: 16
                 font.bold: true
-                color: "#3F51D8"
+                color: theme.accent
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
             }

@@ -26,7 +26,7 @@ QVOfferTimeCompletedViewBase {
             text: "Has it been more than 24 hours since you completed the offer?"
             font.pixelSize: 15
             font.bold: true
-            color: "#15151E"
+            color: theme.textPrimary
             wrapMode: Text.Wrap
         }
         Column {

@@ -18,7 +18,7 @@ QVOfferUICollectionViewCellBase {
         anchors.topMargin: 2
         anchors.bottomMargin: -2
         radius: card.radius
-        color: "#14000000"
+        color: theme.shade(0.08)
     }
 
     Rectangle {
@@ -29,12 +29,12 @@ QVOfferUICollectionViewCellBase {
         radius: cell.cornerRadius
         border.width: cell.borderWidth
         border.color: cell.borderColor
-        color: "#FFFFFF"
+        color: theme.card
 
         Rectangle {
             anchors.fill: thumb
             radius: thumb.cornerRadius
-            color: "#ECECF2"
+            color: theme.separator
             visible: !thumb.hasImage
         }
         QVImageView {
@@ -63,7 +63,7 @@ QVOfferUICollectionViewCellBase {
                 text: cell.offerName
                 font.pixelSize: 17
                 font.bold: true
-                color: "#15151E"
+                color: theme.textPrimary
                 elide: Text.ElideRight
             }
             Text {
@@ -72,7 +72,7 @@ QVOfferUICollectionViewCellBase {
                 width: parent.width
                 text: cell.offerDescription
                 font.pixelSize: 14
-                color: "#5F5F6E"
+                color: theme.textSecondary
                 wrapMode: Text.WordWrap
                 maximumLineCount: 3
                 elide: Text.ElideRight
@@ -91,8 +91,8 @@ QVOfferUICollectionViewCellBase {
             height: 38
             radius: cell.cornerRadius
             border.width: activeFocus ? 2 : cell.borderWidth
-            border.color: activeFocus ? "#115C31" : cell.borderColor
-            color: creditsTap.pressed ? "#1E8C4E" : "#22A35A"
+            border.color: activeFocus ? theme.textPrimary : cell.borderColor
+            color: creditsTap.pressed ? theme.tint(theme.payoutButton, theme.payoutText, 0.15) : theme.payoutButton
             activeFocusOnTab: true
             Accessible.role: Accessible.Button
             Accessible.name: "Earn " + cell.payoutTitle + ": " + cell.offerName
@@ -106,7 +106,7 @@ QVOfferUICollectionViewCellBase {
                 text: credits.text
                 font.pixelSize: 16
                 font.bold: true
-                color: "#FFFFFF"
+                color: theme.payoutText
             }
             MouseArea {
                 id: creditsTap

@@ -20,7 +20,7 @@ QVOffersViewControllerBase {
     Rectangle {
         objectName: "wallBackground"
         anchors.fill: parent
-        color: QVColor.colorFromHex("#F2F2F2")
+        color: theme.background
     }
 
     // Rows of one offer, or two side by side on a wide wall. Rows leaving the screen are
@@ -82,7 +82,7 @@ QVOffersViewControllerBase {
         width: 3
         height: list.visibleArea.heightRatio * list.height
         radius: 1.5
-        color: "#80000000"
+        color: theme.withAlpha(theme.textPrimary, 0.5)
         visible: list.moving && list.visibleArea.heightRatio < 1
     }
 
@@ -98,7 +98,7 @@ QVOffersViewControllerBase {
         Text {
             text: "Loading offers…"
             font.pixelSize: 15
-            color: "#5F5F6E"
+            color: theme.textSecondary
         }
     }
 
@@ -111,7 +111,7 @@ QVOffersViewControllerBase {
         text: "No offers right now"
         font.pixelSize: 19
         font.bold: true
-        color: "#2B2B36"
+        color: theme.textPrimary
     }
     Text {
         anchors.top: emptyLabel.bottom
@@ -121,7 +121,7 @@ QVOffersViewControllerBase {
         visible: emptyLabel.visible
         text: "New ways to earn arrive often. Check back soon."
         font.pixelSize: 15
-        color: "#5F5F6E"
+        color: theme.textSecondary
         wrapMode: Text.WordWrap
         horizontalAlignment: Text.AlignHCenter
     }
@@ -139,14 +139,14 @@ QVOffersViewControllerBase {
             text: "Couldn't load offers"
             font.pixelSize: 19
             font.bold: true
-            color: "#2B2B36"
+            color: theme.textPrimary
             horizontalAlignment: Text.AlignHCenter
         }
         Text {
             width: parent.width
             text: "Check your connection and try again."
             font.pixelSize: 15
-            color: "#5F5F6E"
+            color: theme.textSecondary
             wrapMode: Text.WordWrap
             horizontalAlignment: Text.AlignHCenter
         }
@@ -169,9 +169,9 @@ QVOffersViewControllerBase {
         anchors.horizontalCenter: parent.horizontalCenter
         width: Math.min(parent.width - 24, 420)
         height: noticeText.implicitHeight + noticeDetail.implicitHeight + 24
-        radius: 12
+        radius: theme.cornerRadius
         z: 3
-        color: "#1E7A45"
+        color: theme.payoutButton
         opacity: root.creditNoticeShown ? 1 : 0
         visible: opacity > 0
         Behavior on opacity { NumberAnimation { duration: 200 } }
@@ -190,7 +190,7 @@ QVOffersViewControllerBase {
             text: root.creditNoticeText
             font.pixelSize: 19
             font.bold: true
-            color: "#FFFFFF"
+            color: theme.payoutText
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap
         }
@@ -201,7 +201,7 @@ QVOffersViewControllerBase {
             anchors.right: noticeText.right
             text: root.creditNoticeDetail
             font.pixelSize: 14
-            color: "#FFFFFF"
+            color: theme.payoutText
             horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideRight
         }
@@ -221,8 +221,8 @@ QVOffersViewControllerBase {
         z: 2
         gradient: Gradient {
             orientation: Gradient.Horizontal
-            GradientStop { position: 0.0; color: "#2F2A86" }
-            GradientStop { position: 1.0; color: "#4A3FC4" }
+            GradientStop { position: 0.0; color: theme.headerStart }
+            GradientStop { position: 1.0; color: theme.headerEnd }
         }
 
         MouseArea {
@@ -248,7 +248,7 @@ QVOffersViewControllerBase {
             width: Math.min(implicitWidth, parent.width - 2 * 100)
             font.pixelSize: 18
             font.bold: true
-            color: "#FFFFFF"
+            color: theme.headerText
             elide: Text.ElideRight
         }
 

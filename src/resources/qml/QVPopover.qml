@@ -24,7 +24,7 @@ Popup {
             anchors.fill: card
             anchors.margins: -1
             radius: card.radius + 1
-            color: "#26000000"
+            color: theme.shade(0.15)
         }
         Rectangle {
             width: 20
@@ -32,15 +32,15 @@ Popup {
             rotation: 45
             x: popover.arrowX - width / 2
             y: popover.arrowHeight - height / 2 + 1
-            color: "#FFFFFF"
-            border.color: "#26000000"
+            color: theme.card
+            border.color: theme.shade(0.15)
         }
         Rectangle {
             id: card
             anchors.fill: parent
             anchors.topMargin: popover.arrowHeight
-            radius: 14
-            color: "#FFFFFF"
+            radius: theme.cornerRadius + 4
+            color: theme.card
         }
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -28,10 +29,10 @@ QVQACollectionViewCellBase {
         Keys.onEnterPressed: clicked()
         onClicked: cell.selected()
         background: Rectangle {
-            radius: 10
-            color: "#FFFFFF"
+            radius: theme.cornerRadius
+            color: theme.card
             border.width: card.visualFocus ? 2 : 1
-            border.color: card.visualFocus ? "#3F51D8" : "#C9CDF2"
+            border.color: card.visualFocus ? theme.accent : theme.tint(theme.card, theme.accent, 0.3)
         }
         contentItem: Item {
             Text {
@@ -43,10 +44,10 @@ QVQACollectionViewCellBase {
                 text: cell.question
                 font.pixelSize: cell.questionPixelSize
                 font.bold: true
-                color: "#2F2A86"
+                color: theme.accent
                 wrapMode: Text.Wrap
             }
-            Image {
+            ColorImage {
                 anchors.right: parent.right
                 anchors.rightMargin: 12
                 y: cell.padding
@@ -54,6 +55,7 @@ QVQACollectionViewCellBase {
                 height: 20
                 rotation: 90
                 source: "icons/chevron.svg"
+                color: theme.textSecondary
                 sourceSize: Qt.size(40, 40)
             }
             Text {
@@ -64,7 +66,7 @@ QVQACollectionViewCellBase {
                 width: parent.width - 2 * cell.padding
                 text: cell.answer
                 font.pixelSize: cell.answerPixelSize
-                color: "#3C3C46"
+                color: theme.textSecondary
                 wrapMode: Text.Wrap
             }
         }

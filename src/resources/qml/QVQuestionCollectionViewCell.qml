@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -25,10 +26,10 @@ QVQuestionCollectionViewCellBase {
         Keys.onEnterPressed: clicked()
         onClicked: cell.selected()
         background: Rectangle {
-            radius: 10
-            color: card.down ? "#F4F4F8" : "#FFFFFF"
+            radius: theme.cornerRadius
+            color: card.down ? theme.tint(theme.card, theme.textPrimary, 0.06) : theme.card
             border.width: card.visualFocus ? 2 : 1
-            border.color: card.visualFocus ? "#3F51D8" : "#E3E3EA"
+            border.color: card.visualFocus ? theme.accent : theme.separator
         }
         contentItem: Item {
             Text {
@@ -42,12 +43,12 @@ QVQuestionCollectionViewCellBase {
                 text: cell.question
                 font.pixelSize: 16
                 font.bold: true
-                color: "#15151E"
+                color: theme.textPrimary
                 wrapMode: Text.Wrap
                 maximumLineCount: 3
                 elide: Text.ElideRight
             }
-            Image {
+            ColorImage {
                 id: chevron
                 anchors.right: parent.right
                 anchors.rightMargin: 12
@@ -55,6 +56,7 @@ QVQuestionCollectionViewCellBase {
                 width: 20
                 height: 20
                 source: "icons/chevron.svg"
+                color: theme.textSecondary
                 sourceSize: Qt.size(40, 40)
             }
         }

@@ -17,7 +17,7 @@ QVPopover {
             text: "Corvel Support"
             font.pixelSize: 16
             font.bold: true
-            color: "#15151E"
+            color: theme.textPrimary
         }
         ToolButton {
             id: supportClose
@@ -26,16 +26,16 @@ QVPopover {
             anchors.top: parent.top
             anchors.margins: 4
             icon.source: "icons/close.svg"
-            icon.color: "#5F5F6E"
+            icon.color: theme.textSecondary
             icon.width: 20
             icon.height: 20
             background: Rectangle {
                 implicitWidth: 36
                 implicitHeight: 36
                 radius: width / 2
-                color: supportClose.down ? "#E6E6EE" : "transparent"
+                color: supportClose.down ? theme.tint(theme.card, theme.textPrimary, 0.06) : "transparent"
                 border.width: supportClose.visualFocus ? 2 : 0
-                border.color: "#3F51D8"
+                border.color: theme.accent
             }
             Accessible.name: "Close support"
             Keys.onReturnPressed: clicked()

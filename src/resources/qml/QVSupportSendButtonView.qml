@@ -24,14 +24,14 @@ QVSupportSendButtonViewBase {
         background: Rectangle {
             radius: view.cornerRadius
             border.width: send.visualFocus ? 3 : view.borderWidth
-            border.color: send.visualFocus ? "#1B2586" : view.borderColor
-            color: send.down ? "#2D3BB0" : "#3F51D8"
+            border.color: send.visualFocus ? theme.textPrimary : view.borderColor
+            color: send.down ? theme.tint(theme.accent, theme.textPrimary, 0.2) : theme.accent
         }
         contentItem: Text {
             text: send.text
             font.pixelSize: 17
             font.bold: true
-            color: "#FFFFFF"
+            color: theme.card
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
         }

@@ -12,7 +12,7 @@ QVSupportViewControllerBase {
 
     Rectangle {
         anchors.fill: parent
-        color: root.backgroundColor
+        color: root.showsFormBackground ? theme.background : theme.card
     }
 
     TabBar {
@@ -30,7 +30,7 @@ QVSupportViewControllerBase {
         onCurrentIndexChanged: root.segmentChanged(currentIndex)
         background: Rectangle {
             radius: 9
-            color: "#E6E6EE"
+            color: theme.tint(theme.background, theme.textPrimary, 0.06)
         }
         Repeater {
             model: ["FAQ", "History", "Contact Us"]
@@ -42,15 +42,15 @@ QVSupportViewControllerBase {
                 Accessible.name: modelData
                 background: Rectangle {
                     radius: 7
-                    color: segment.checked ? "#FFFFFF" : "transparent"
+                    color: segment.checked ? theme.card : "transparent"
                     border.width: segment.visualFocus ? 2 : 0
-                    border.color: "#3F51D8"
+                    border.color: theme.accent
                 }
                 contentItem: Text {
                     text: segment.text
                     font.pixelSize: 14
                     font.bold: segment.checked
-                    color: segment.checked ? "#15151E" : "#5F5F6E"
+                    color: segment.checked ? theme.accent : theme.textSecondary
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
                 }
@@ -76,18 +76,18 @@ QVSupportViewControllerBase {
         wrapMode: Text.Wrap
         font.pixelSize: 14
         font.bold: true
-        color: "#FFFFFF"
+        color: theme.card
         Accessible.role: Accessible.AlertMessage
         background: Item {
             Rectangle {
                 anchors.fill: parent
                 radius: root.errorCornerRadius
-                color: "#A53838"
+                color: theme.error
             }
             Rectangle {
                 width: parent.width
                 height: root.errorCornerRadius
-                color: "#A53838"
+                color: theme.error
             }
         }
     }

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -25,10 +26,10 @@ QVTransactionCollectionViewCellBase {
         anchors.rightMargin: 12
         anchors.topMargin: 6
         anchors.bottomMargin: 6
-        radius: 10
-        color: "#FFFFFF"
+        radius: theme.cornerRadius
+        color: theme.card
         border.width: 1
-        border.color: "#E3E3EA"
+        border.color: theme.separator
         clip: true
 
         // A tab on the card's left edge; only its right-hand corners are round.
@@ -43,19 +44,20 @@ QVTransactionCollectionViewCellBase {
             Rectangle {
                 anchors.fill: parent
                 radius: cell.markerCornerRadius
-                color: "#22A35A"
+                color: theme.payoutButton
             }
             Rectangle {
                 width: cell.markerCornerRadius
                 height: parent.height
-                color: "#22A35A"
+                color: theme.payoutButton
             }
-            Image {
+            ColorImage {
                 anchors.centerIn: parent
                 anchors.horizontalCenterOffset: -2
                 width: 18
                 height: 18
                 source: "icons/checkmark-white.svg"
+                color: theme.payoutText
                 sourceSize: Qt.size(36, 36)
             }
         }
@@ -74,7 +76,7 @@ QVTransactionCollectionViewCellBase {
                 text: cell.offerName
                 font.pixelSize: 17
                 font.bold: true
-                color: "#15151E"
+                color: theme.textPrimary
                 elide: Text.ElideRight
             }
             Text {
@@ -83,7 +85,7 @@ QVTransactionCollectionViewCellBase {
                 width: parent.width
                 text: cell.timestamp
                 font.pixelSize: 13
-                color: "#5F5F6E"
+                color: theme.textSecondary
             }
             Label {
                 id: status
@@ -91,14 +93,14 @@ QVTransactionCollectionViewCellBase {
                 text: "Credited"
                 font.pixelSize: 12
                 font.bold: true
-                color: "#1E7C46"
+                color: theme.payoutText
                 leftPadding: 8
                 rightPadding: 8
                 topPadding: 3
                 bottomPadding: 3
                 background: Rectangle {
                     radius: 10
-                    color: "#E3F5EA"
+                    color: theme.payoutButton
                 }
             }
         }
@@ -111,7 +113,7 @@ QVTransactionCollectionViewCellBase {
             text: cell.payout
             font.pixelSize: 20
             font.bold: true
-            color: "#22A35A"
+            color: theme.payoutButton
         }
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls.impl
 import QuorvaMedia
 
 // Shown in the send button's place, at its height.
@@ -12,16 +13,17 @@ QVUnableToAssistBase {
         anchors.rightMargin: 12
         anchors.topMargin: 4
         anchors.bottomMargin: 6
-        radius: 10
-        color: "#EEF0FB"
+        radius: theme.cornerRadius
+        color: theme.tint(theme.card, theme.accent, 0.09)
 
-        Image {
+        ColorImage {
             id: icon
             x: 14
             anchors.verticalCenter: parent.verticalCenter
             width: 24
             height: 24
             source: "icons/info.svg"
+            color: theme.accent
             sourceSize: Qt.size(48, 48)
         }
         Column {
@@ -36,14 +38,14 @@ QVUnableToAssistBase {
                 text: "Rewards can take up to 24 hours"
                 font.pixelSize: 15
                 font.bold: true
-                color: "#23236A"
+                color: theme.textPrimary
                 elide: Text.ElideRight
             }
             Text {
                 width: parent.width
                 text: "Please check back tomorrow; we can't look into it sooner."
                 font.pixelSize: 13
-                color: "#4B4B7A"
+                color: theme.textSecondary
                 wrapMode: Text.Wrap
                 maximumLineCount: 2
                 elide: Text.ElideRight

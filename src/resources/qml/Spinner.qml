@@ -1,10 +1,12 @@
 import QtQuick
+import QtQuick.Controls.impl
 
 // A turning ring while something loads; the turning runs on the render thread.
-Image {
+ColorImage {
     width: 36
     height: 36
     source: "icons/spinner.svg"
+    color: theme.accent
     sourceSize: Qt.size(72, 72)
     RotationAnimator on rotation {
         from: 0

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "quorvamedia_global.h"
+
+#include <QtCore/QObject>
+#include <QtGui/QColor>
+#include <QtQml/qqmlregistration.h>
+
+// The colours of every screen of the wall, as roles. light() is the wall's own look,
+// dark() its dark look, fromBrandColor() a whole theme from an app's brand colour.
+// Every theme the class makes is readable: text and what lies under it meet 4.5 : 1
+// (WCAG 2.1), the payout button's edge against the card at least 3 : 1.
+class QUORVAMEDIA_EXPORT QVTheme
+{
+    Q_GADGET
+    QML_VALUE_TYPE(theme)
+    Q_PROPERTY(QColor headerStart MEMBER headerStart FINAL)
+    Q_PROPERTY(QColor headerEnd MEMBER headerEnd FINAL)
+    Q_PROPERTY(QColor headerText MEMBER headerText FINAL)
+    Q_PROPERTY(QColor background MEMBER background FINAL)
+    Q_PROPERTY(QColor card MEMBER card FINAL)
+    Q_PROPERTY(QColor textPrimary MEMBER textPrimary FINAL)
+    Q_PROPERTY(QColor textSecondary MEMBER textSecondary FINAL)
+    Q_PROPERTY(QColor accent MEMBER accent FINAL)
+    Q_PROPERTY(QColor payoutButton MEMBER payoutButton FINAL)
+    Q_PROPERTY(QColor payoutText MEMBER payoutText FINAL)
+    Q_PROPERTY(QColor error MEMBER error FINAL)
+    Q_PROPERTY(QColor separator MEMBER separator FINAL)
+    Q_PROPERTY(qreal cornerRadius MEMBER cornerRadius FINAL)
+    Q_PROPERTY(bool isDark READ isDark FINAL)
+
+public:
+    enum Scheme { Light, Dark };
+    Q_ENUM(Scheme)
+
+    QColor headerStart;   // the header's gradient, leading edge
+    QColor headerEnd;     // and trailing edge
+    QColor headerText;    // title and header icons
+    QColor background;    // behind the list and the panels
+    QColor card;          // cells, forms, popovers, alerts; also text on accent and error fills
+    QColor textPrimary;
+    QColor textSecondary;
+    QColor accent;        // checkmarks, the chosen segment, links, the date button, filled buttons
+    QColor payoutButton;  // payout buttons, credited amounts, the credit notice
+    QColor payoutText;    // text on payoutButton
+    QColor error;         // the form's error strip and error text
+    QColor separator;     // hairlines and quiet borders
+    qreal cornerRadius = 10;
+
+    static QVTheme light();
+    static QVTheme dark();
+    static QVTheme fromBrandColor(const QColor &brand, Scheme scheme = Light);
+    // light() or dark(), by the lightness of the application palette's window colour.
+    static QVTheme system();
+    // WCAG 2.1 contrast ratio of two colours (1 to 21), from their relative luminance.
+    static double contrastRatio(const QColor &a, const QColor &b);
+
+    bool isDark() const;
+
+    // Shades mixed from the roles, for pressed states, tints and borders.
+    Q_INVOKABLE QColor tint(const QColor &base, const QColor &over, qreal amount) const;
+    Q_INVOKABLE QColor withAlpha(const QColor &color, qreal alpha) const;
+    // A drop shadow of the given strength.
+    Q_INVOKABLE QColor shade(qreal alpha) const;
+
+    friend bool operator==(const QVTheme &, const QVTheme &) = default;
+};

@@ -1,0 +1,167 @@
+#include <QuorvaMedia/QVColor.h>
+#include <QuorvaMedia/QVTheme.h>
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QPalette>
+#include <QtTest/QtTest>
+
+Q_DECLARE_METATYPE(QVTheme)
+
+namespace {
+struct Pair
+{
+    const char *name;
+    QColor QVTheme::*text;
+    QColor QVTheme::*under;
+    double minimum;
+};
+
+// What is read on what, in every theme: text 4.5 : 1; the payout button's edge 3 : 1.
+const Pair kPairs[] = {
+    {"header title on header start", &QVTheme::headerText, &QVTheme::headerStart, 4.5},
+    {"header title on header end", &QVTheme::headerText, &QVTheme::headerEnd, 4.5},
+    {"primary text on card", &QVTheme::textPrimary, &QVTheme::card, 4.5},
+    {"primary text on background", &QVTheme::textPrimary, &QVTheme::background, 4.5},
+    {"secondary text on card", &QVTheme::textSecondary, &QVTheme::card, 4.5},
+    {"secondary text on background", &QVTheme::textSecondary, &QVTheme::background, 4.5},
+    {"accent links on card", &QVTheme::accent, &QVTheme::card, 4.5},
+    {"accent on background", &QVTheme::accent, &QVTheme::background, 4.5},
+    {"button text on accent", &QVTheme::card, &QVTheme::accent, 4.5},
+    {"payout text on payout button", &QVTheme::payoutText, &QVTheme::payoutButton, 4.5},
+    {"payout button edge on card", &QVTheme::payoutButton, &QVTheme::card, 3.0},
+    {"error text on card", &QVTheme::error, &QVTheme::card, 4.5},
+    {"error text on background", &QVTheme::error, &QVTheme::background, 4.5},
+    {"error strip text", &QVTheme::card, &QVTheme::error, 4.5},
+};
+
+const char *const kBrands[] = {"#3F51D8", "#FFD400", "#00C2FF", "#FF5A5F", "#1DB954", "#6200EE",
+                               "#000000", "#FFFFFF", "#FF9900", "#E91E63", "#795548", "#9E9E9E",
+                               "#00BFA5", "#F44336", "#2196F3", "#FFEB3B"};
+} // namespace
+
+class tst_QVTheme : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyPairReads_data();
+    void everyPairReads();
+    void lightIsTheWallsOwnLook();
+    void brandSetsHeaderAndAccent_data();
+    void brandSetsHeaderAndAccent();
+    void systemFollowsThePalette();
+    void contrastRatioIsWcag_data();
+    void contrastRatioIsWcag();
+};
+
+void tst_QVTheme::everyPairReads_data()
+{
+    QTest::addColumn<QVTheme>("theme");
+    QTest::addColumn<int>("pair");
+    QList<QPair<QString, QVTheme>> themes{{QStringLiteral("light"), QVTheme::light()},
+                                          {QStringLiteral("dark"), QVTheme::dark()}};
+    for (const char *brand : kBrands) {
+        themes.append({QStringLiteral("%1 light").arg(QLatin1String(brand)),
+                       QVTheme::fromBrandColor(QColor::fromString(QLatin1String(brand)), QVTheme::Light)});
+        themes.append({QStringLiteral("%1 dark").arg(QLatin1String(brand)),
+                       QVTheme::fromBrandColor(QColor::fromString(QLatin1String(brand)), QVTheme::Dark)});
+    }
+    for (const auto &[name, theme] : themes) {
+        for (int i = 0; i < int(std::size(kPairs)); ++i)
+            QTest::newRow(qPrintable(name + QStringLiteral(": ") + QLatin1String(kPairs[i].name))) << theme << i;
+    }
+}
+
+void tst_QVTheme::everyPairReads()
+{
+    QFETCH(QVTheme, theme);
+    QFETCH(int, pair);
+    const Pair &p = kPairs[pair];
+    const QColor text = theme.*(p.text);
+    const QColor under = theme.*(p.under);
+    const double ratio = QVTheme::contrastRatio(text, under);
+    QVERIFY2(ratio >= p.minimum, qPrintable(QStringLiteral("%1 on %2: %3 : 1")
+                                                .arg(text.name(), under.name())
+                                                .arg(ratio, 0, 'f', 2)));
+}
+
+void tst_QVTheme::lightIsTheWallsOwnLook()
+{
+    const QVTheme light = QVTheme::light();
+    QCOMPARE(light.background, QVColor::colorFromHex(QStringLiteral("#F2F2F2")));
+    QCOMPARE(light.error, QVColor::colorFromHex(QStringLiteral("#A53838")));
+    QCOMPARE(light.accent, QColor(0x3F, 0x51, 0xD8));
+    QCOMPARE(light.headerStart, QColor(0x2F, 0x2A, 0x86));
+    QCOMPARE(light.card, QColor(Qt::white));
+    // The payout green was too faint for its white text: darker, same hue, and no darker
+    // than it needs to be.
+    const QColor green(0x22, 0xA3, 0x5A);
+    QVERIFY(light.payoutButton != green);
+    QCOMPARE(light.payoutButton.toHsl().hslHue(), green.toHsl().hslHue());
+    QVERIFY(QVTheme::contrastRatio(light.payoutText, light.payoutButton) < 4.7);
+    QVERIFY(!light.isDark());
+    QVERIFY(QVTheme::dark().isDark());
+}
+
+void tst_QVTheme::brandSetsHeaderAndAccent_data()
+{
+    QTest::addColumn<QString>("brand");
+    QTest::addColumn<QColor>("headerText");
+    QTest::newRow("yellow gets dark header text") << "#FFD400" << QColor(0x15, 0x15, 0x1E);
+    QTest::newRow("indigo keeps white") << "#3F51D8" << QColor(Qt::white);
+    QTest::newRow("black keeps white") << "#000000" << QColor(Qt::white);
+    QTest::newRow("white gets dark") << "#FFFFFF" << QColor(0x15, 0x15, 0x1E);
+}
+
+void tst_QVTheme::brandSetsHeaderAndAccent()
+{
+    QFETCH(QString, brand);
+    QFETCH(QColor, headerText);
+    const QColor colour = QColor::fromString(brand);
+    for (const auto scheme : {QVTheme::Light, QVTheme::Dark}) {
+        const QVTheme theme = QVTheme::fromBrandColor(colour, scheme);
+        QCOMPARE(theme.headerStart, colour);
+        QCOMPARE(theme.headerText, headerText);
+        QCOMPARE(theme.isDark(), scheme == QVTheme::Dark);
+        // The accent is the brand, made readable with its hue kept.
+        if (colour.hslSaturation() > 0)
+            QCOMPARE(theme.accent.toHsl().hslHue(), colour.toHsl().hslHue());
+    }
+}
+
+void tst_QVTheme::systemFollowsThePalette()
+{
+    const QPalette original = QGuiApplication::palette();
+    const auto restore = qScopeGuard([&] { QGuiApplication::setPalette(original); });
+    QPalette dark = original;
+    dark.setColor(QPalette::Window, QColor(0x20, 0x20, 0x24));
+    QGuiApplication::setPalette(dark);
+    QCOMPARE(QVTheme::system(), QVTheme::dark());
+    QPalette light = original;
+    light.setColor(QPalette::Window, QColor(0xEE, 0xEE, 0xEE));
+    QGuiApplication::setPalette(light);
+    QCOMPARE(QVTheme::system(), QVTheme::light());
+}
+
+void tst_QVTheme::contrastRatioIsWcag_data()
+{
+    QTest::addColumn<QColor>("a");
+    QTest::addColumn<QColor>("b");
+    QTest::addColumn<double>("ratio");
+    QTest::newRow("black on white") << QColor(Qt::black) << QColor(Qt::white) << 21.0;
+    QTest::newRow("same colour") << QColor(0x3F, 0x51, 0xD8) << QColor(0x3F, 0x51, 0xD8) << 1.0;
+    QTest::newRow("white on the old payout green") << QColor(Qt::white) << QColor(0x22, 0xA3, 0x5A) << 3.25;
+    QTest::newRow("mid grey on white") << QColor(0x76, 0x76, 0x76) << QColor(Qt::white) << 4.54;
+}
+
+void tst_QVTheme::contrastRatioIsWcag()
+{
+    QFETCH(QColor, a);
+    QFETCH(QColor, b);
+    QFETCH(double, ratio);
+    QVERIFY2(qAbs(QVTheme::contrastRatio(a, b) - ratio) < 0.01, qPrintable(QString::number(QVTheme::contrastRatio(a, b))));
+    QCOMPARE(QVTheme::contrastRatio(a, b), QVTheme::contrastRatio(b, a));
+}
+
+QTEST_MAIN(tst_QVTheme)
+#include "tst_QVTheme.moc"

@@ -24,6 +24,9 @@ int main(int argc, char **argv)
     const double kb = double(QFileInfo(stripped).size()) / 1000.0;
     std::printf("%s: %.0f KB built, %.1f KB stripped\n", qPrintable(QFileInfo(library).fileName()),
                 double(QFileInfo(library).size()) / 1000.0, kb);
-    bench::verdict("stripped library size", kb, 450, "KB", QStringLiteral("fixed"));
+    // The first goal was set before the support centre existed; the second allows for the
+    // preload, the credits watcher, host events, themes and what follows them.
+    bench::verdict("stripped library size", kb, 450, "KB", QStringLiteral("fixed, before the support centre"));
+    bench::verdict("stripped library size, with the additions", kb, 600, "KB", QStringLiteral("fixed"));
     return 0;
 }

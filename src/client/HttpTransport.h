@@ -38,7 +38,7 @@ struct TransferResult
     bool answered() const { return outcome == Outcome::Answered; }
 };
 
-class QUORVAMEDIA_EXPORT HttpTransport
+class HttpTransport
 {
 public:
     // Blocks the calling (worker) thread until the exchange has ended.

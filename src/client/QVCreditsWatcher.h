@@ -52,8 +52,8 @@ signals:
     void checkingChanged();
 
 private:
-    void sendPoll();
-    void pollEnded(const std::optional<QList<QVTransaction>> &history);
+    Q_DECL_HIDDEN void sendPoll();
+    Q_DECL_HIDDEN void pollEnded(const std::optional<QList<QVTransaction>> &history);
 
     struct Private;
     std::unique_ptr<Private> d;

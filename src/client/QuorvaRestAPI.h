@@ -104,10 +104,10 @@ private:
     friend struct quorva::detail::ServiceRequests;
     explicit QuorvaRestAPI(QObject *parent = nullptr);
 
-    QString addressFor(const char *scheme, const QString &path) const;
-    QString userPath(const char *pathFormat) const;
-    quorva::detail::TransferRequest requestFor(const char *name, const QString &address);
-    QVAdvertisingInfo advertisingInfo() const;
+    Q_DECL_HIDDEN QString addressFor(const char *scheme, const QString &path) const;
+    Q_DECL_HIDDEN QString userPath(const char *pathFormat) const;
+    Q_DECL_HIDDEN quorva::detail::TransferRequest requestFor(const char *name, const QString &address);
+    Q_DECL_HIDDEN QVAdvertisingInfo advertisingInfo() const;
 
     QString m_pubId;
     QString m_corvelId;

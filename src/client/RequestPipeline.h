@@ -13,7 +13,7 @@ class QThreadPool;
 namespace quorva::detail {
 
 // Runs fn on the GUI thread from the event loop, never synchronously.
-QUORVAMEDIA_EXPORT void postToGuiThread(std::function<void()> fn);
+void postToGuiThread(std::function<void()> fn);
 
 // Sends one request from the worker pool and routes its outcome: a reply that carries an
 // HTTP status is a response, whatever the status; a transport failure, the time-out,

@@ -24,7 +24,7 @@ struct ServiceIdentity
 
 // The requests of the shared client, with the identifiers given and everything else
 // (address, targeting, limits, trust) taken from the client at the moment of the call.
-struct QUORVAMEDIA_EXPORT ServiceRequests
+struct ServiceRequests
 {
     // One page of offers exactly as it would go on the wire; two equal requests are the
     // same bytes on the wire. Reads the advertising provider once.

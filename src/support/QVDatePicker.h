@@ -8,7 +8,7 @@
 
 // A date picker of three wheels (month, day, year). The chosen date lives here; the
 // wheels show it and report the user's turns.
-class QUORVAMEDIA_EXPORT QVDatePicker : public QQuickItem
+class QVDatePicker : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(QVDatePickerBase)

@@ -117,18 +117,18 @@ protected:
 
 private:
     template <typename Piece>
-    Piece *loadPiece(const char *objectName);
-    void addPiece(QQuickItem *piece);
-    void removePiece(QQuickItem *piece);
-    void place(QQuickItem *piece, QQuickItem *anchor, qreal height = -1);
-    void stackInReadingOrder();
-    void setKeyboardInset(qreal inset);
-    void hideDatePanelAtOnce();
-    void fadeDatePanel(qreal opacity);
-    void scrollRectToVisible(const QRectF &rect);
-    void endEditing();
-    QString textOf(QQuickItem *input) const;
-    void watchKeyboard();
+    Q_DECL_HIDDEN Piece *loadPiece(const char *objectName);
+    Q_DECL_HIDDEN void addPiece(QQuickItem *piece);
+    Q_DECL_HIDDEN void removePiece(QQuickItem *piece);
+    Q_DECL_HIDDEN void place(QQuickItem *piece, QQuickItem *anchor, qreal height = -1);
+    Q_DECL_HIDDEN void stackInReadingOrder();
+    Q_DECL_HIDDEN void setKeyboardInset(qreal inset);
+    Q_DECL_HIDDEN void hideDatePanelAtOnce();
+    Q_DECL_HIDDEN void fadeDatePanel(qreal opacity);
+    Q_DECL_HIDDEN void scrollRectToVisible(const QRectF &rect);
+    Q_DECL_HIDDEN void endEditing();
+    Q_DECL_HIDDEN QString textOf(QQuickItem *input) const;
+    Q_DECL_HIDDEN void watchKeyboard();
 
     QVEmailViewControllerDelegate *m_delegate = nullptr;
     QQuickItem *m_scrollView = nullptr;

@@ -47,7 +47,7 @@ protected:
     void componentComplete() override;
 
 private:
-    QString fieldText() const;
+    Q_DECL_HIDDEN QString fieldText() const;
 
     QQuickItem *m_commentInputField = nullptr;
     QQuickItem *m_charCount = nullptr;

@@ -8,7 +8,7 @@
 class QVFAQViewController;
 
 // The FAQ's rows: question, answer and whether the row is the open one.
-class QUORVAMEDIA_EXPORT QVFaqListModel : public QAbstractListModel
+class QVFaqListModel : public QAbstractListModel
 {
     Q_OBJECT
 

@@ -44,8 +44,8 @@ signals:
     void isLoadingChanged();
 
 private:
-    void setLoading(bool loading);
-    void reloadData();
+    Q_DECL_HIDDEN void setLoading(bool loading);
+    Q_DECL_HIDDEN void reloadData();
 
     QQuickItem *m_collectionView = nullptr;
     QQuickItem *m_noOffersCompleted = nullptr;

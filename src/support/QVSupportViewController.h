@@ -61,12 +61,12 @@ protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
-    void viewDidLoad();
+    Q_DECL_HIDDEN void viewDidLoad();
     template <typename Child>
-    Child *createChild(const char *objectName);
-    void layoutChild(QQuickItem *child);
-    void setBackgroundColor(const QColor &color);
-    void setErrorVisible(bool visible);
+    Q_DECL_HIDDEN Child *createChild(const char *objectName);
+    Q_DECL_HIDDEN void layoutChild(QQuickItem *child);
+    Q_DECL_HIDDEN void setBackgroundColor(const QColor &color);
+    Q_DECL_HIDDEN void setErrorVisible(bool visible);
 
     QQuickItem *m_segmentedControl = nullptr;
     QQuickItem *m_errorLabel = nullptr;

@@ -8,7 +8,7 @@
 class QVPayoutFormatter;
 
 // The history's rows in the order delivered: offer name, display date and payout text.
-class QUORVAMEDIA_EXPORT QVTransactionsListModel : public QAbstractListModel
+class QVTransactionsListModel : public QAbstractListModel
 {
     Q_OBJECT
 

@@ -9,7 +9,7 @@ class QQuickItem;
 
 // Shows a one-button alert over an item. The alert is a dialog with objectName "alert",
 // string properties "title" and "message", and one button with objectName "alertAction".
-class QUORVAMEDIA_EXPORT QVAlertPresenter
+class QVAlertPresenter
 {
 public:
     static QObject *present(QQuickItem *over, const QString &title, const QString &message,

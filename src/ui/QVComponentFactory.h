@@ -13,7 +13,7 @@ class QQuickItem;
 
 // Creates the library's screens, cells and panels from the interface files compiled
 // into the library, never from the host's files.
-class QUORVAMEDIA_EXPORT QVComponentFactory
+class QVComponentFactory
 {
 public:
     // The engine the factory uses when the caller has none (the C++ entry point).

@@ -51,10 +51,10 @@ protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:
-    void downloadImage(std::shared_ptr<DownloadOperation> operation);
-    QImage renderedImage() const;
-    qreal devicePixelRatio() const;
-    QSize pixelSize() const;
+    Q_DECL_HIDDEN void downloadImage(std::shared_ptr<DownloadOperation> operation);
+    Q_DECL_HIDDEN QImage renderedImage() const;
+    Q_DECL_HIDDEN qreal devicePixelRatio() const;
+    Q_DECL_HIDDEN QSize pixelSize() const;
 
     QImage m_image;
     qreal m_cornerRadius = 0;

@@ -5,7 +5,7 @@
 class QQuickItem;
 
 // Keyboard helpers for screens with text inputs.
-class QUORVAMEDIA_EXPORT QVKeyboard
+class QVKeyboard
 {
 public:
     // Ends editing inside view: the text input that has the focus there loses it and the

@@ -11,7 +11,7 @@ class QUrl;
 // The network access of the picture loader, apart from the REST client: pictures are
 // plain GETs, which the network stack may repeat without harm. Trusts the system's
 // certificate authorities plus the ones the host adds to the library.
-class QUORVAMEDIA_EXPORT QVPictureNetwork
+class QVPictureNetwork
 {
 public:
     static void addCaCertificates(const QList<QSslCertificate> &certificates);

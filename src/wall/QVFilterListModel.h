@@ -9,7 +9,7 @@ class QVFiltersViewController;
 // The filter panel's two sections flattened into one list, each behind a header row of
 // its own, so a section without rows still shows its header. A cell row knows its
 // section, its row within it, its text and whether it bears the section's checkmark.
-class QUORVAMEDIA_EXPORT QVFilterListModel : public QAbstractListModel
+class QVFilterListModel : public QAbstractListModel
 {
     Q_OBJECT
 

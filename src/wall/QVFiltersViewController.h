@@ -89,8 +89,8 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    void refresh();
-    void showFailureAlert();
+    Q_DECL_HIDDEN void refresh();
+    Q_DECL_HIDDEN void showFailureAlert();
 
     QVFiltersViewControllerDelegate *m_delegate = nullptr;
     std::optional<QVCategory> m_categoryParam;

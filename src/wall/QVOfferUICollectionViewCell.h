@@ -94,8 +94,8 @@ protected:
 
 private:
     template <typename Signal>
-    void assign(QString &field, const QString &value, Signal changed);
-    void configure();
+    Q_DECL_HIDDEN void assign(QString &field, const QString &value, Signal changed);
+    Q_DECL_HIDDEN void configure();
 
     QVOfferUICollectionViewCellDelegate *m_delegate = nullptr;
     QPointer<QObject> m_dataSource;

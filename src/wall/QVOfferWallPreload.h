@@ -44,19 +44,19 @@ private:
     friend class QVOffersViewController;
 
     explicit QVOfferWallPreload(const quorva::detail::ServiceIdentity &identity);
-    static QVOfferWallPreload *start(const QString &pubId, const QString &corvelId, const QString &subId1);
+    Q_DECL_HIDDEN static QVOfferWallPreload *start(const QString &pubId, const QString &corvelId, const QString &subId1);
     // The preload a new wall with these identifiers may take, if any.
-    static QVOfferWallPreload *find(const quorva::detail::ServiceIdentity &identity);
+    Q_DECL_HIDDEN static QVOfferWallPreload *find(const quorva::detail::ServiceIdentity &identity);
     // Marks the preload taken when it may be: not failed, fresh and for the same request
     // on the wire. Otherwise it is dropped. Either way it is out of the registry.
-    bool take(const quorva::detail::TransferRequest &firstPage);
+    Q_DECL_HIDDEN bool take(const quorva::detail::TransferRequest &firstPage);
     // The wall built ahead, handed over once.
-    QQuickItem *takeBuiltWall();
+    Q_DECL_HIDDEN QQuickItem *takeBuiltWall();
     const Private &state() const { return *d; }
-    void sendRequests();
-    void buildNextStep();
-    void update();
-    void release();
+    Q_DECL_HIDDEN void sendRequests();
+    Q_DECL_HIDDEN void buildNextStep();
+    Q_DECL_HIDDEN void update();
+    Q_DECL_HIDDEN void release();
 
     std::unique_ptr<Private> d;
 };

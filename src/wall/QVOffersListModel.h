@@ -9,7 +9,7 @@
 // columns on a wide wall). Each row carries a generation that changes whenever what
 // its cells should show may have changed: the list was emptied, or a page filled the
 // row's second place. Appending keeps the scroll position; clearing resets it.
-class QUORVAMEDIA_EXPORT QVOffersListModel : public QAbstractListModel
+class QVOffersListModel : public QAbstractListModel
 {
     Q_OBJECT
     Q_PROPERTY(int count READ count NOTIFY countChanged FINAL)

@@ -189,9 +189,9 @@ public:
     void onSaveFiltersPressed(const std::optional<QVCategory> &category, const QVSort &sort) override;
 
 private slots:
-    void popoverOpened();
-    void popoverClosed();
-    void popoverCloseRequested();
+    Q_DECL_HIDDEN void popoverOpened();
+    Q_DECL_HIDDEN void popoverClosed();
+    Q_DECL_HIDDEN void popoverCloseRequested();
 
 signals:
     void closePressed();
@@ -220,37 +220,37 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    void viewDidLoad();
-    void reloadData();
-    void setLoadingOffers(bool loading);
-    void setLastPageFailed(bool failed);
-    void updateLoadFailed();
-    void requestProfile();
-    void sendOffersRequest(quorva::detail::TransferRequest request);
-    void offersArrived(const QList<QVOffer> &offers, bool more);
-    void offersFailed();
-    void profileArrived(const QVProfile &profile);
-    bool takePreload(const quorva::detail::TransferRequest &firstPage);
-    void applyPreload();
-    void watchForFirstOffersOnScreen();
-    void creditsReceived(const QList<QVTransaction> &transactions);
-    void setCreditNotice(bool shown, const QString &text, const QString &detail);
-    void setHeaderText(const QString &text);
-    QString headerText() const;
-    void showFailureAlert();
-    QObject *popover(QObject *&popover, const char *typeName, const char *objectName);
-    void presentInPopover(QObject *popover, QQuickItem *button, QQuickItem *panel);
-    void dismissPopover(QObject *popover);
+    Q_DECL_HIDDEN void viewDidLoad();
+    Q_DECL_HIDDEN void reloadData();
+    Q_DECL_HIDDEN void setLoadingOffers(bool loading);
+    Q_DECL_HIDDEN void setLastPageFailed(bool failed);
+    Q_DECL_HIDDEN void updateLoadFailed();
+    Q_DECL_HIDDEN void requestProfile();
+    Q_DECL_HIDDEN void sendOffersRequest(quorva::detail::TransferRequest request);
+    Q_DECL_HIDDEN void offersArrived(const QList<QVOffer> &offers, bool more);
+    Q_DECL_HIDDEN void offersFailed();
+    Q_DECL_HIDDEN void profileArrived(const QVProfile &profile);
+    Q_DECL_HIDDEN bool takePreload(const quorva::detail::TransferRequest &firstPage);
+    Q_DECL_HIDDEN void applyPreload();
+    Q_DECL_HIDDEN void watchForFirstOffersOnScreen();
+    Q_DECL_HIDDEN void creditsReceived(const QList<QVTransaction> &transactions);
+    Q_DECL_HIDDEN void setCreditNotice(bool shown, const QString &text, const QString &detail);
+    Q_DECL_HIDDEN void setHeaderText(const QString &text);
+    Q_DECL_HIDDEN QString headerText() const;
+    Q_DECL_HIDDEN void showFailureAlert();
+    Q_DECL_HIDDEN QObject *popover(QObject *&popover, const char *typeName, const char *objectName);
+    Q_DECL_HIDDEN void presentInPopover(QObject *popover, QQuickItem *button, QQuickItem *panel);
+    Q_DECL_HIDDEN void dismissPopover(QObject *popover);
     // The filter panel opens with its own, bouncier spring; every other slide is the same.
     enum class Slide { OpenFilters, Other };
-    void slide(QQuickItem *panel, const char *property, qreal to, Slide kind, bool detachWhenDone);
-    void trackSlide(QAbstractAnimation *animation);
-    void attachPhoneOverlay(QQuickItem *panel, QLatin1StringView title);
-    void setPhoneOverlayOpen(bool &flag, bool open);
-    void layoutFilterPanel();
-    void layoutSupportPanel();
-    qreal listHeight() const;
-    qreal listWidth() const;
+    Q_DECL_HIDDEN void slide(QQuickItem *panel, const char *property, qreal to, Slide kind, bool detachWhenDone);
+    Q_DECL_HIDDEN void trackSlide(QAbstractAnimation *animation);
+    Q_DECL_HIDDEN void attachPhoneOverlay(QQuickItem *panel, QLatin1StringView title);
+    Q_DECL_HIDDEN void setPhoneOverlayOpen(bool &flag, bool open);
+    Q_DECL_HIDDEN void layoutFilterPanel();
+    Q_DECL_HIDDEN void layoutSupportPanel();
+    Q_DECL_HIDDEN qreal listHeight() const;
+    Q_DECL_HIDDEN qreal listWidth() const;
 
     QVOffersViewControllerDelegate *m_delegate = nullptr;
     QVOffersListModel *m_offers = nullptr;

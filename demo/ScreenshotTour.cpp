@@ -24,9 +24,12 @@ int ScreenshotTour::run()
         camera.fail(QStringLiteral("the preload did not become ready"));
 
     // Every screen in the wall's own look, then dark, then derived from a yellow brand.
+    // And in German and in Arabic, which reads right to left.
     const Look looks[] = {{std::nullopt, QString()},
                           {QVTheme::dark(), QStringLiteral("-dark")},
-                          {QVTheme::fromBrandColor(QColor(0xFF, 0xD4, 0x00)), QStringLiteral("-brand")}};
+                          {QVTheme::fromBrandColor(QColor(0xFF, 0xD4, 0x00)), QStringLiteral("-brand")},
+                          {std::nullopt, QStringLiteral("-de"), QLocale(QLocale::German, QLocale::Germany)},
+                          {std::nullopt, QStringLiteral("-ar"), QLocale(QLocale::Arabic, QLocale::Egypt)}};
     for (const Look &look : looks) {
         setLook(look);
         renderScreens(camera);

@@ -22,6 +22,7 @@ Look g_look;
 void setLook(const Look &look)
 {
     g_look = look;
+    QLocale::setDefault(look.locale);
 }
 
 bool spinUntil(const std::function<bool()> &condition)

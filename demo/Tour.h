@@ -2,6 +2,7 @@
 
 #include <QuorvaMedia/QuorvaMedia.h>
 
+#include <QtCore/QLocale>
 #include <QtCore/QString>
 #include <QtQuick/QQuickWindow>
 
@@ -21,6 +22,7 @@ struct Look
 {
     std::optional<QVTheme> theme; // none: the wall follows the system
     QString suffix;
+    QLocale locale{QLocale::English, QLocale::UnitedStates}; // the host's default when a wall is made
 };
 void setLook(const Look &look);
 

@@ -1,6 +1,7 @@
 quorva_add_test(tst_QVImageView)
 quorva_add_test(tst_QVColor)
 quorva_add_test(tst_QVTheme)
+quorva_add_test(tst_QVLanguage)
 quorva_add_test(tst_QVSpringCurve)
 quorva_add_test(tst_QVPayoutFormatter)
 quorva_add_test(tst_QVOffersViewController)

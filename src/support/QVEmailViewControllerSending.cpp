@@ -12,11 +12,11 @@ using quorva::detail::TicketField;
 
 namespace {
 constexpr QLatin1StringView kApiDateFormat("yyyy-MM-dd");
-constexpr QLatin1StringView kSentTitle("Message Sent");
-constexpr QLatin1StringView kSentMessage("We will review your inquiry and respond shortly.");
-constexpr QLatin1StringView kFailedTitle("No Connection");
-constexpr QLatin1StringView kFailedMessage("Please check your internet and try again.");
-constexpr QLatin1StringView kAlertAction("Ok");
+constexpr const char *kSentTitle = QT_TRANSLATE_NOOP("QVEmailViewController", "Message Sent");
+constexpr const char *kSentMessage = QT_TRANSLATE_NOOP("QVEmailViewController", "We will review your inquiry and respond shortly.");
+constexpr const char *kFailedTitle = QT_TRANSLATE_NOOP("QVEmailViewController", "No Connection");
+constexpr const char *kFailedMessage = QT_TRANSLATE_NOOP("QVEmailViewController", "Please check your internet and try again.");
+constexpr const char *kAlertAction = QT_TRANSLATE_NOOP("QVEmailViewController", "Ok");
 constexpr QLatin1StringView kFullAllowance("200");
 constexpr int kStateWithOfferDetails = 2;
 } // namespace
@@ -92,14 +92,14 @@ void QVEmailViewController::sendPressed()
 
 void QVEmailViewController::showTicketCreatedAlert()
 {
-    QVAlertPresenter::present(this, kSentTitle, kSentMessage, kAlertAction);
+    QVAlertPresenter::present(this, tr(kSentTitle), tr(kSentMessage), tr(kAlertAction));
     clearInputFields();
 }
 
 void QVEmailViewController::showFailureAlert()
 {
     // Everything typed stays, so the user can send again.
-    QVAlertPresenter::present(this, kFailedTitle, kFailedMessage, kAlertAction);
+    QVAlertPresenter::present(this, tr(kFailedTitle), tr(kFailedMessage), tr(kAlertAction));
 }
 
 void QVEmailViewController::clearInputFields()

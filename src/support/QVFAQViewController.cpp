@@ -1,16 +1,17 @@
 #include "QVFAQViewController.h"
 #include "QVQACollectionViewCell.h"
 #include "QVFaqListModel.h"
+#include "QVLanguage.h"
 
 namespace {
-constexpr QLatin1StringView kFaqsResource(":/qt-project.org/imports/QuorvaMedia/faqs.plist");
+constexpr QLatin1StringView kFaqsResource("faqs.plist");
 } // namespace
 
 QVFAQViewController::QVFAQViewController(QQuickItem *parent) : QQuickItem(parent), m_model(new QVFaqListModel(this)) {}
 
 QString QVFAQViewController::faqsResourcePath()
 {
-    return kFaqsResource;
+    return quorva::detail::localizedResource(kFaqsResource);
 }
 
 QAbstractItemModel *QVFAQViewController::model() const

@@ -1,5 +1,23 @@
 #include "QVTransactionsListModel.h"
+#include "QVLanguage.h"
 #include "QVPayoutFormatter.h"
+
+#include <QtCore/QDateTime>
+
+namespace {
+// As the client writes a transaction's time.
+constexpr QLatin1StringView kClientFormat("MM/dd/yyyy hh:mm:ss");
+
+// In English as the client wrote it; in another language as that language writes a date.
+QString localTimestamp(const QString &timestamp)
+{
+    const QLocale locale = quorva::detail::libraryLocale();
+    if (locale.language() == QLocale::English || timestamp.isEmpty())
+        return timestamp;
+    const QDateTime time = QDateTime::fromString(timestamp, kClientFormat);
+    return time.isValid() ? locale.toString(time, QLocale::ShortFormat) : timestamp;
+}
+} // namespace
 
 QVTransactionsListModel::QVTransactionsListModel(const QVPayoutFormatter *formatter, QObject *parent)
     : QAbstractListModel(parent), m_formatter(formatter)
@@ -21,7 +39,7 @@ QVariant QVTransactionsListModel::data(const QModelIndex &index, int role) const
     case OfferNameRole:
         return transaction.offerName();
     case TimestampRole:
-        return transaction.timestamp();
+        return localTimestamp(transaction.timestamp());
     case PayoutRole:
         // Always a "+", whatever the sign: -5 reads "+-5".
         return m_formatter->payoutTitle(transaction.currencyAdjustment());

@@ -1,16 +1,23 @@
 #include "TicketFormCheck.h"
 #include "QVOfferDateCompletedView.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QRegularExpression>
 
 namespace quorva::detail {
 
 namespace {
-constexpr QLatin1StringView kInvalidName("Please enter a valid name");
-constexpr QLatin1StringView kInvalidEmail("Please enter a valid email");
-constexpr QLatin1StringView kInvalidOfferName("Please enter a valid offer name");
-constexpr QLatin1StringView kMissingDate("Please enter a date");
-constexpr QLatin1StringView kMissingComment("Please provide additional comments");
+constexpr const char *kContext = "TicketFormCheck";
+constexpr const char *kInvalidName = QT_TRANSLATE_NOOP("TicketFormCheck", "Please enter a valid name");
+constexpr const char *kInvalidEmail = QT_TRANSLATE_NOOP("TicketFormCheck", "Please enter a valid email");
+constexpr const char *kInvalidOfferName = QT_TRANSLATE_NOOP("TicketFormCheck", "Please enter a valid offer name");
+constexpr const char *kMissingDate = QT_TRANSLATE_NOOP("TicketFormCheck", "Please enter a date");
+constexpr const char *kMissingComment = QT_TRANSLATE_NOOP("TicketFormCheck", "Please provide additional comments");
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate(kContext, source);
+}
 constexpr int kStateWithOfferDetails = 2;
 
 const QRegularExpression kEmailPattern(
@@ -41,19 +48,19 @@ bool isEmailAddress(const QString &text)
 TicketFormProblem firstProblem(const TicketFormInput &input)
 {
     if (trimmedOfWhiteSpace(input.name).isEmpty())
-        return {TicketField::Name, kInvalidName};
+        return {TicketField::Name, text(kInvalidName)};
     const QString email = trimmedOfWhiteSpace(input.email);
     if (email.isEmpty() || !isEmailAddress(email))
-        return {TicketField::Email, kInvalidEmail};
+        return {TicketField::Email, text(kInvalidEmail)};
     if (input.state == kStateWithOfferDetails) {
         if (trimmedOfWhiteSpace(input.offerName).isEmpty())
-            return {TicketField::OfferName, kInvalidOfferName};
+            return {TicketField::OfferName, text(kInvalidOfferName)};
         // Only the button's title tells whether a date was given.
         if (input.dateTitle == QVOfferDateCompletedView::kPlaceholder)
-            return {TicketField::Date, kMissingDate};
+            return {TicketField::Date, text(kMissingDate)};
     }
     if (trimmedOfWhiteSpace(input.comment).isEmpty())
-        return {TicketField::Comment, kMissingComment};
+        return {TicketField::Comment, text(kMissingComment)};
     return {};
 }
 

@@ -63,6 +63,11 @@ list(APPEND QUORVA_QML_FILES
 
 list(APPEND QUORVA_RESOURCE_FILES
     resources/faqs.plist
+    resources/de.lproj/faqs.plist
+    resources/es.lproj/faqs.plist
+    resources/fr.lproj/faqs.plist
+    resources/pt_BR.lproj/faqs.plist
+    resources/ar.lproj/faqs.plist
     resources/icons/name_field_icon
     resources/icons/name_field_error
     resources/icons/email_field_icon

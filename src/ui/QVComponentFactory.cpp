@@ -39,6 +39,7 @@ QQmlEngine *QVComponentFactory::sharedEngine()
         // What a screen made outside any wall reads; inside a wall the wall's own theme
         // is found first.
         e->rootContext()->setContextProperty(QStringLiteral("theme"), QVariant::fromValue(QVTheme::light()));
+        e->rootContext()->setContextProperty(QStringLiteral("rightToLeft"), false);
         return e;
     }();
     return engine;

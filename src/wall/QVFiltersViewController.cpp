@@ -13,12 +13,21 @@
 namespace {
 constexpr QLatin1StringView kAllCategories("All Categories");
 constexpr QLatin1StringView kFeatured("Featured");
-constexpr QLatin1StringView kSortSectionTitle("Sort by Type");
-constexpr QLatin1StringView kCategorySectionTitle("Sort by Category");
+constexpr const char *kSortSectionTitle = QT_TRANSLATE_NOOP("QVFiltersViewController", "Sort by Type");
+constexpr const char *kCategorySectionTitle = QT_TRANSLATE_NOOP("QVFiltersViewController", "Sort by Category");
+// Shown translated; kept in English in the records, where they are matched by name.
+constexpr const char *kShownNames[] = {
+    QT_TRANSLATE_NOOP("QVFiltersViewController", "All Categories"),
+    QT_TRANSLATE_NOOP("QVFiltersViewController", "Featured"),
+    QT_TRANSLATE_NOOP("QVFiltersViewController", "Popularity"),
+    QT_TRANSLATE_NOOP("QVFiltersViewController", "Trending"),
+    QT_TRANSLATE_NOOP("QVFiltersViewController", "Payout: High to Low"),
+    QT_TRANSLATE_NOOP("QVFiltersViewController", "Credit Delay"),
+};
 constexpr QLatin1StringView kCategoriesFailedLog("Categories request failed");
-constexpr QLatin1StringView kAlertTitle("No Connection");
-constexpr QLatin1StringView kAlertMessage("Please check your internet and try again.");
-constexpr QLatin1StringView kAlertAction("Ok");
+constexpr const char *kAlertTitle = QT_TRANSLATE_NOOP("QVFiltersViewController", "No Connection");
+constexpr const char *kAlertMessage = QT_TRANSLATE_NOOP("QVFiltersViewController", "Please check your internet and try again.");
+constexpr const char *kAlertAction = QT_TRANSLATE_NOOP("QVFiltersViewController", "Ok");
 
 std::optional<QList<QVCategory>> &sharedCategories()
 {
@@ -108,14 +117,20 @@ int QVFiltersViewController::numberOfItems(int section) const
 
 QString QVFiltersViewController::titleForSection(int section)
 {
-    return section == kTypeSection ? QString(kSortSectionTitle) : QString(kCategorySectionTitle);
+    return tr(section == kTypeSection ? kSortSectionTitle : kCategorySectionTitle);
 }
 
 QString QVFiltersViewController::titleForRow(int section, int row) const
 {
-    if (section == kTypeSection)
-        return m_sortOptions.value(row).key();
-    return allCategories() ? allCategories()->value(row).categoryName() : QString();
+    const QString name = section == kTypeSection
+        ? m_sortOptions.value(row).key()
+        : (allCategories() ? allCategories()->value(row).categoryName() : QString());
+    // The service's own category names are shown as it sends them.
+    for (const char *shown : kShownNames) {
+        if (name == QLatin1StringView(shown))
+            return tr(shown);
+    }
+    return name;
 }
 
 void QVFiltersViewController::loadCategories()
@@ -191,5 +206,5 @@ void QVFiltersViewController::onSavedPressed()
 
 void QVFiltersViewController::showFailureAlert()
 {
-    QVAlertPresenter::present(this, kAlertTitle, kAlertMessage, kAlertAction);
+    QVAlertPresenter::present(this, tr(kAlertTitle), tr(kAlertMessage), tr(kAlertAction));
 }

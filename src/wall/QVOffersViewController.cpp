@@ -5,6 +5,7 @@
 #include "OfferWallPreloadState.h"
 #include "QVDevice.h"
 #include "QVImageView.h"
+#include "QVLanguage.h"
 #include "QVOffersListModel.h"
 #include "QVPayoutFormatter.h"
 #include "QuorvaLog.h"
@@ -20,14 +21,14 @@
 #include <utility>
 
 namespace {
-constexpr QLatin1StringView kEarnFormat("Earn %1");
+constexpr const char *kEarnFormat = QT_TRANSLATE_NOOP("QVOffersViewController", "Earn %1");
 constexpr QLatin1StringView kAbsentText("(null)");
 constexpr QLatin1StringView kOffersFailedLog("offers request failed");
 constexpr QLatin1StringView kProfileFailedLog("Currency count request failed");
-constexpr QLatin1StringView kAlertTitle("No Connection");
+constexpr const char *kAlertTitle = QT_TRANSLATE_NOOP("QVOffersViewController", "No Connection");
 // The leading blank belongs to this screen's message.
-constexpr QLatin1StringView kAlertMessage(" Please check your internet and try again.");
-constexpr QLatin1StringView kAlertAction("Ok");
+constexpr const char *kAlertMessage = QT_TRANSLATE_NOOP("QVOffersViewController", " Please check your internet and try again.");
+constexpr const char *kAlertAction = QT_TRANSLATE_NOOP("QVOffersViewController", "Ok");
 constexpr QLatin1StringView kCreditFormat("%1 %2");
 constexpr QLatin1StringView kCreditOffersSeparator(", ");
 
@@ -50,6 +51,9 @@ QVOffersViewController::QVOffersViewController(QQuickItem *parent)
     m_creditNoticeTimer->setInterval(kCreditNoticeMs);
     connect(m_creditNoticeTimer, &QTimer::timeout, this, &QVOffersViewController::dismissCreditNotice);
     m_theme = QVTheme::system();
+    // The host's default locale when the wall is made chooses its language.
+    quorva::detail::useLanguageOf(QLocale());
+    m_rightToLeft = quorva::detail::libraryLocale().textDirection() == Qt::RightToLeft;
     // The palette changes when the system switches between light and dark.
     if (QCoreApplication *app = QCoreApplication::instance())
         app->installEventFilter(this);
@@ -278,7 +282,7 @@ void QVOffersViewController::profileArrived(const QVProfile &profile)
 {
     m_currencyName = profile.currencyName();
     const QString name = profile.currencyName().isNull() ? QString(kAbsentText) : profile.currencyName();
-    const QString title = QString(kEarnFormat).arg(name);
+    const QString title = tr(kEarnFormat).arg(name);
     // An open overlay keeps its own title; the wall's comes back when it closes.
     if (m_isFiltersViewOpen || m_isSupportViewOpen)
         m_lastHeaderTitle = title;
@@ -525,7 +529,7 @@ void QVOffersViewController::onClosePressed()
 
 void QVOffersViewController::showFailureAlert()
 {
-    QVAlertPresenter::present(this, kAlertTitle, kAlertMessage, kAlertAction);
+    QVAlertPresenter::present(this, tr(kAlertTitle), tr(kAlertMessage), tr(kAlertAction));
 }
 
 void QVOffersViewController::setHeaderText(const QString &text)

@@ -78,6 +78,8 @@ class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
     Q_PROPERTY(QQuickItem *creditNotice MEMBER m_creditNotice NOTIFY outletsChanged FINAL)
     // Every screen, panel, popover and alert of the wall reads its colours from here.
     Q_PROPERTY(QVTheme theme READ theme WRITE setTheme NOTIFY themeChanged FINAL)
+    // The wall's language reads right to left: every screen is mirrored.
+    Q_PROPERTY(bool rightToLeft READ isRightToLeft CONSTANT FINAL)
     Q_PROPERTY(bool creditNoticeShown READ creditNoticeShown NOTIFY creditNoticeChanged FINAL)
     Q_PROPERTY(QString creditNoticeText READ creditNoticeText NOTIFY creditNoticeChanged FINAL)
     Q_PROPERTY(QString creditNoticeDetail READ creditNoticeDetail NOTIFY creditNoticeChanged FINAL)
@@ -110,6 +112,7 @@ public:
     // Until a host sets one, the wall follows the system's light or dark look, also
     // while it is open.
     QVTheme theme() const { return m_theme; }
+    bool isRightToLeft() const { return m_rightToLeft; }
     void setTheme(const QVTheme &theme);
 
     QVOffersViewControllerDelegate *delegate() const { return m_delegate; }
@@ -245,7 +248,7 @@ private:
     enum class Slide { OpenFilters, Other };
     Q_DECL_HIDDEN void slide(QQuickItem *panel, const char *property, qreal to, Slide kind, bool detachWhenDone);
     Q_DECL_HIDDEN void trackSlide(QAbstractAnimation *animation);
-    Q_DECL_HIDDEN void attachPhoneOverlay(QQuickItem *panel, QLatin1StringView title);
+    Q_DECL_HIDDEN void attachPhoneOverlay(QQuickItem *panel, const QString &title);
     Q_DECL_HIDDEN void setPhoneOverlayOpen(bool &flag, bool open);
     Q_DECL_HIDDEN void layoutFilterPanel();
     Q_DECL_HIDDEN void layoutSupportPanel();
@@ -305,4 +308,5 @@ private:
     QQuickItem *m_creditNotice = nullptr;
     QVTheme m_theme;
     bool m_themeSet = false;
+    bool m_rightToLeft = false;
 };

@@ -12,8 +12,8 @@
 #include <QtQml/QQmlEngine>
 
 namespace {
-constexpr QLatin1StringView kFiltersTitle("Sort/Filter Offers");
-constexpr QLatin1StringView kSupportTitle("Corvel Support");
+constexpr const char *kFiltersTitle = QT_TRANSLATE_NOOP("QVOffersViewController", "Sort/Filter Offers");
+constexpr const char *kSupportTitle = QT_TRANSLATE_NOOP("QVOffersViewController", "Corvel Support");
 constexpr QLatin1StringView kBlurViewType("QVBlurView");
 constexpr QLatin1StringView kFiltersType("QVFiltersViewController");
 constexpr QLatin1StringView kSupportType("QVSupportViewController");
@@ -76,7 +76,7 @@ void QVOffersViewController::onFilterPressed()
     }
 
     QVFiltersViewController *panel = m_filterVC;
-    attachPhoneOverlay(panel, kFiltersTitle);
+    attachPhoneOverlay(panel, tr(kFiltersTitle));
     panel->setClip(true);
     m_blurView = QVComponentFactory::create<QQuickItem>(
         qmlEngine(this), kBlurViewType, {{QStringLiteral("sourceItem"), QVariant::fromValue(m_collectionView)}},
@@ -93,7 +93,7 @@ void QVOffersViewController::onFilterPressed()
     setPhoneOverlayOpen(m_isFiltersViewOpen, true);
 }
 
-void QVOffersViewController::attachPhoneOverlay(QQuickItem *panel, QLatin1StringView title)
+void QVOffersViewController::attachPhoneOverlay(QQuickItem *panel, const QString &title)
 {
     m_lastHeaderTitle = headerText();
     setHeaderText(title);
@@ -206,9 +206,11 @@ void QVOffersViewController::onSupportPressed()
     }
 
     QVSupportViewController *support = m_supportVC;
-    attachPhoneOverlay(support, kSupportTitle);
+    attachPhoneOverlay(support, tr(kSupportTitle));
     // In from the right, under the header.
-    support->setX(listWidth());
+    // It comes in from the reading side's far edge: the right, or the left in a
+    // right-to-left language.
+    support->setX(m_rightToLeft ? -listWidth() : listWidth());
     layoutSupportPanel();
     slide(support, "x", 0, Slide::Other, false);
     setPhoneOverlayOpen(m_isSupportViewOpen, true);
@@ -217,7 +219,7 @@ void QVOffersViewController::onSupportPressed()
 void QVOffersViewController::closeSupportView()
 {
     if (m_supportVC && m_supportVC->parentItem() == this)
-        slide(m_supportVC, "x", listWidth(), Slide::Other, true);
+        slide(m_supportVC, "x", m_rightToLeft ? -listWidth() : listWidth(), Slide::Other, true);
     setPhoneOverlayOpen(m_isSupportViewOpen, false);
 }
 

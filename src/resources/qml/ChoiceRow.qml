@@ -45,16 +45,21 @@ AbstractButton {
         Text {
             anchors.left: parent.left
             anchors.right: check.left
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.top: parent.top
+            anchors.bottom: parent.bottom
             anchors.leftMargin: 16
             anchors.rightMargin: 8
+            anchors.topMargin: 2
+            anchors.bottomMargin: 2
+            verticalAlignment: Text.AlignVCenter
             text: row.text
             font.pixelSize: 15
             font.bold: check.visible
             color: theme.textPrimary
             wrapMode: Text.Wrap
-            maximumLineCount: 2
-            elide: Text.ElideRight
+            // A long choice gets smaller rather than cut.
+            fontSizeMode: Text.Fit
+            minimumPixelSize: 10
         }
         ColorImage {
             id: check

@@ -27,7 +27,7 @@ TextField {
         focusPolicy: Qt.NoFocus
         text: "\u00d7"
         font.pixelSize: 18
-        Accessible.name: "Clear " + field.Accessible.name
+        Accessible.name: qsTr("Clear %1").arg(field.Accessible.name)
         onClicked: field.clearPressed()
         background: Rectangle {
             radius: width / 2

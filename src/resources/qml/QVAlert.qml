@@ -7,7 +7,7 @@ Dialog {
     objectName: "alert"
 
     property string message
-    property string actionTitle: "Ok"
+    property string actionTitle: qsTr("Ok")
 
     anchors.centerIn: parent
     width: Math.min(parent ? parent.width - 64 : 270, 290)
@@ -17,6 +17,8 @@ Dialog {
     topPadding: 0
 
     background: Rectangle {
+        LayoutMirroring.enabled: rightToLeft
+        LayoutMirroring.childrenInherit: true
         radius: theme.cornerRadius + 4
         color: theme.card
     }
@@ -34,6 +36,8 @@ Dialog {
     }
 
     contentItem: Label {
+        LayoutMirroring.enabled: rightToLeft
+        LayoutMirroring.childrenInherit: true
         text: alert.message.trim()
         topPadding: 6
         bottomPadding: 18

@@ -22,9 +22,15 @@ QVChooseSubjectViewBase {
 
         Text {
             id: title
-            x: 16
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.leftMargin: 16
+            anchors.rightMargin: 16
             y: 14
-            text: "What can we help you with?"
+            // The rows below have a fixed height: a long heading gets smaller instead.
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 9
+            text: qsTr("What can we help you with?")
             font.pixelSize: 13
             font.bold: true
             font.capitalization: Font.AllUppercase
@@ -41,7 +47,7 @@ QVChooseSubjectViewBase {
                 objectName: "notCreditBtn"
                 checkmarkName: "notCreditCheckmark"
                 width: parent.width
-                text: "I completed an offer but wasn't credited"
+                text: qsTr("I completed an offer but wasn't credited")
                 onClicked: view.onSelectionChange(notCredited)
             }
             ChoiceRow {
@@ -49,7 +55,7 @@ QVChooseSubjectViewBase {
                 objectName: "reportBtn"
                 checkmarkName: "reportCheckmark"
                 width: parent.width
-                text: "Report an offer"
+                text: qsTr("Report an offer")
                 onClicked: view.onSelectionChange(report)
             }
             ChoiceRow {
@@ -57,7 +63,7 @@ QVChooseSubjectViewBase {
                 objectName: "otherBtn"
                 checkmarkName: "otherCheckmark"
                 width: parent.width
-                text: "Something else"
+                text: qsTr("Something else")
                 last: true
                 onClicked: view.onSelectionChange(other)
             }

@@ -44,7 +44,7 @@ QVEmailViewControllerBase {
             anchors.left: parent.left
             anchors.leftMargin: 16
             anchors.verticalCenter: done.verticalCenter
-            text: "When did you complete it?"
+            text: qsTr("When did you complete it?")
             font.pixelSize: 15
             font.bold: true
             color: theme.textPrimary
@@ -57,8 +57,8 @@ QVEmailViewControllerBase {
             anchors.rightMargin: 8
             anchors.topMargin: 6
             flat: true
-            text: "Done"
-            Accessible.name: "Done choosing the date"
+            text: qsTr("Done")
+            Accessible.name: qsTr("Done choosing the date")
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()
             onClicked: form.onDateDonePressed()
@@ -98,7 +98,7 @@ QVEmailViewControllerBase {
                     currentIndex: picker.monthIndex
                     onCurrentIndexChanged: picker.pickMonth(currentIndex)
                     delegate: wheelRow
-                    Accessible.name: "Month"
+                    Accessible.name: qsTr("Month")
                 }
                 Tumbler {
                     width: parent.width * 0.2
@@ -116,7 +116,7 @@ QVEmailViewControllerBase {
                         horizontalAlignment: Text.AlignHCenter
                         verticalAlignment: Text.AlignVCenter
                     }
-                    Accessible.name: "Day"
+                    Accessible.name: qsTr("Day")
                 }
                 Tumbler {
                     width: parent.width * 0.38
@@ -127,7 +127,7 @@ QVEmailViewControllerBase {
                     currentIndex: picker.yearIndex
                     onCurrentIndexChanged: picker.pickYear(currentIndex)
                     delegate: wheelRow
-                    Accessible.name: "Year"
+                    Accessible.name: qsTr("Year")
                 }
             }
         }

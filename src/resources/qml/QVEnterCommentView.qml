@@ -21,7 +21,8 @@ QVEnterCommentViewBase {
         ColorImage {
             id: icon
             objectName: "commentIcon"
-            x: 14
+            anchors.left: parent.left
+            anchors.leftMargin: 14
             y: 16
             width: 24
             height: 24
@@ -43,12 +44,12 @@ QVEnterCommentViewBase {
             rightPadding: 0
             font.pixelSize: 16
             color: theme.textPrimary
-            placeholderText: "Tell us what happened"
+            placeholderText: qsTr("Tell us what happened")
             placeholderTextColor: theme.textSecondary
             wrapMode: TextEdit.Wrap
             selectByMouse: true
             background: Item {}
-            Accessible.name: "Your message"
+            Accessible.name: qsTr("Your message")
             onTextChanged: view.commentTextChanged()
             // Tab leaves the message instead of typing a tab into it.
             Keys.onTabPressed: area.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)

@@ -24,7 +24,8 @@ QVEnterInformationViewBase {
         ColorImage {
             id: nameIconImage
             objectName: "nameIcon"
-            x: 14
+            anchors.left: parent.left
+            anchors.leftMargin: 14
             anchors.verticalCenter: name.verticalCenter
             width: 24
             height: 24
@@ -41,8 +42,8 @@ QVEnterInformationViewBase {
             anchors.rightMargin: 12
             y: 8
             height: 40
-            placeholderText: "Your name"
-            Accessible.name: "Your name"
+            placeholderText: qsTr("Your name")
+            Accessible.name: qsTr("Your name")
             onTextEdited: view.fieldWillChange(name)
             onClearPressed: view.clearField(name)
         }
@@ -56,7 +57,8 @@ QVEnterInformationViewBase {
         ColorImage {
             id: emailIconImage
             objectName: "emailIcon"
-            x: 14
+            anchors.left: parent.left
+            anchors.leftMargin: 14
             anchors.verticalCenter: email.verticalCenter
             width: 24
             height: 24
@@ -75,9 +77,9 @@ QVEnterInformationViewBase {
             anchors.bottomMargin: 8
             height: 40
             color: view.emailShowsError ? theme.error : theme.textPrimary
-            placeholderText: "Email address"
+            placeholderText: qsTr("Email address")
             inputMethodHints: Qt.ImhEmailCharactersOnly | Qt.ImhNoAutoUppercase
-            Accessible.name: "Email address"
+            Accessible.name: qsTr("Email address")
             onTextEdited: view.fieldWillChange(email)
             onClearPressed: view.clearField(email)
         }

@@ -20,7 +20,8 @@ QVEnterOfferTitleViewBase {
         ColorImage {
             id: icon
             objectName: "nameIcon"
-            x: 14
+            anchors.left: parent.left
+            anchors.leftMargin: 14
             anchors.verticalCenter: parent.verticalCenter
             width: 24
             height: 24
@@ -37,8 +38,8 @@ QVEnterOfferTitleViewBase {
             anchors.rightMargin: 12
             anchors.verticalCenter: parent.verticalCenter
             height: 40
-            placeholderText: "Name of the offer"
-            Accessible.name: "Name of the offer"
+            placeholderText: qsTr("Name of the offer")
+            Accessible.name: qsTr("Name of the offer")
             onTextEdited: view.fieldWillChange(field)
             onClearPressed: view.clearField(field)
         }

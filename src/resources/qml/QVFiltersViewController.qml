@@ -55,8 +55,8 @@ QVFiltersViewControllerBase {
         anchors.bottom: parent.bottom
         anchors.margins: 14
         height: 48
-        text: "Apply Filters"
-        Accessible.name: "Apply the filters"
+        text: qsTr("Apply Filters")
+        Accessible.name: qsTr("Apply the filters")
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
         onClicked: panel.onSavedPressed()

@@ -33,7 +33,10 @@ QVHistoryViewControllerBase {
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -24
         visible: false
-        text: "No offers completed yet"
+        width: Math.min(parent.width - 48, 300)
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.WordWrap
+        text: qsTr("No offers completed yet")
         font.pixelSize: 19
         font.bold: true
         color: theme.textPrimary
@@ -44,7 +47,7 @@ QVHistoryViewControllerBase {
         anchors.horizontalCenter: empty.horizontalCenter
         width: Math.min(history.width - 48, 300)
         visible: empty.visible
-        text: "Offers you complete show up here once they are credited."
+        text: qsTr("Offers you complete show up here once they are credited.")
         font.pixelSize: 15
         color: theme.textSecondary
         wrapMode: Text.WordWrap

@@ -33,7 +33,7 @@ QVOfferDateCompletedViewBase {
             anchors.left: icon.right
             anchors.leftMargin: 12
             anchors.verticalCenter: parent.verticalCenter
-            text: "Completed on"
+            text: qsTr("Completed on")
             font.pixelSize: 16
             color: theme.textSecondary
         }
@@ -45,8 +45,8 @@ QVOfferDateCompletedViewBase {
             anchors.verticalCenter: parent.verticalCenter
             implicitWidth: 118
             implicitHeight: 40
-            text: "MM/DD/YY"
-            Accessible.name: "Completion date: " + text
+            text: "MM/DD/YY" // the form reads this as "no date chosen"
+            Accessible.name: qsTr("Completion date: %1").arg(text)
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()
             background: Rectangle {

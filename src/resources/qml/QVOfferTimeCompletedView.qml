@@ -20,10 +20,11 @@ QVOfferTimeCompletedViewBase {
 
         Text {
             id: question
-            x: 16
+            anchors.left: parent.left
+            anchors.leftMargin: 16
             y: 14
             width: parent.width - 32
-            text: "Has it been more than 24 hours since you completed the offer?"
+            text: qsTr("Has it been more than 24 hours since you completed the offer?")
             font.pixelSize: 15
             font.bold: true
             color: theme.textPrimary
@@ -39,7 +40,7 @@ QVOfferTimeCompletedViewBase {
                 objectName: "yesButton"
                 checkmarkName: "yesCheckmark"
                 width: parent.width
-                text: "Yes"
+                text: qsTr("Yes")
                 onClicked: view.onSelectionChange(yes)
             }
             ChoiceRow {
@@ -47,7 +48,7 @@ QVOfferTimeCompletedViewBase {
                 objectName: "noButton"
                 checkmarkName: "noCheckmark"
                 width: parent.width
-                text: "No"
+                text: qsTr("No")
                 last: true
                 onClicked: view.onSelectionChange(no)
             }

@@ -95,7 +95,7 @@ QVOfferUICollectionViewCellBase {
             color: creditsTap.pressed ? theme.tint(theme.payoutButton, theme.payoutText, 0.15) : theme.payoutButton
             activeFocusOnTab: true
             Accessible.role: Accessible.Button
-            Accessible.name: "Earn " + cell.payoutTitle + ": " + cell.offerName
+            Accessible.name: qsTr("Earn %1: %2").arg(cell.payoutTitle).arg(cell.offerName)
             Accessible.onPressAction: cell.onCreditsBtnPressed()
             Keys.onReturnPressed: cell.onCreditsBtnPressed()
             Keys.onEnterPressed: cell.onCreditsBtnPressed()

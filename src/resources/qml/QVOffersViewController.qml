@@ -16,6 +16,9 @@ QVOffersViewControllerBase {
     creditNotice: creditNoticeView
 
     clip: true
+    // A right-to-left language mirrors every screen below the wall.
+    LayoutMirroring.enabled: root.rightToLeft
+    LayoutMirroring.childrenInherit: true
 
     Rectangle {
         objectName: "wallBackground"
@@ -45,6 +48,7 @@ QVOffersViewControllerBase {
             width: ListView.view.width
             height: root.cellSize.height
             QVOfferUICollectionViewCell {
+                anchors.left: parent.left
                 width: root.cellSize.width
                 height: parent.height
                 row: offersRow.index * root.columns
@@ -52,7 +56,7 @@ QVOffersViewControllerBase {
                 dataSource: root
             }
             Loader {
-                x: root.cellSize.width
+                anchors.right: parent.right
                 width: root.cellSize.width
                 height: parent.height
                 active: root.columns > 1
@@ -96,7 +100,7 @@ QVOffersViewControllerBase {
             visible: parent.visible
         }
         Text {
-            text: "Loading offers…"
+            text: qsTr("Loading offers…")
             font.pixelSize: 15
             color: theme.textSecondary
         }
@@ -107,8 +111,11 @@ QVOffersViewControllerBase {
         objectName: "noOffersLabel"
         anchors.centerIn: list
         anchors.verticalCenterOffset: -24
+        width: Math.min(list.width - 48, 300)
+        horizontalAlignment: Text.AlignHCenter
+        wrapMode: Text.WordWrap
         visible: false
-        text: "No offers right now"
+        text: qsTr("No offers right now")
         font.pixelSize: 19
         font.bold: true
         color: theme.textPrimary
@@ -119,7 +126,7 @@ QVOffersViewControllerBase {
         anchors.horizontalCenter: emptyLabel.horizontalCenter
         width: Math.min(list.width - 48, 300)
         visible: emptyLabel.visible
-        text: "New ways to earn arrive often. Check back soon."
+        text: qsTr("New ways to earn arrive often. Check back soon.")
         font.pixelSize: 15
         color: theme.textSecondary
         wrapMode: Text.WordWrap
@@ -136,7 +143,8 @@ QVOffersViewControllerBase {
         visible: root.loadFailed
         Text {
             width: parent.width
-            text: "Couldn't load offers"
+            text: qsTr("Couldn't load offers")
+            wrapMode: Text.WordWrap
             font.pixelSize: 19
             font.bold: true
             color: theme.textPrimary
@@ -144,7 +152,7 @@ QVOffersViewControllerBase {
         }
         Text {
             width: parent.width
-            text: "Check your connection and try again."
+            text: qsTr("Check your connection and try again.")
             font.pixelSize: 15
             color: theme.textSecondary
             wrapMode: Text.WordWrap
@@ -154,8 +162,8 @@ QVOffersViewControllerBase {
         FlatButton {
             objectName: "retryButton"
             anchors.horizontalCenter: parent.horizontalCenter
-            text: "Try again"
-            Accessible.name: "Try loading the offers again"
+            text: qsTr("Try again")
+            Accessible.name: qsTr("Try loading the offers again")
             onClicked: root.onRetryPressed()
         }
     }
@@ -237,7 +245,7 @@ QVOffersViewControllerBase {
             anchors.verticalCenter: parent.verticalCenter
             anchors.leftMargin: 6
             icon: "icons/header-close.svg"
-            accessibleName: "Close the offers"
+            accessibleName: qsTr("Close the offers")
             onClicked: root.onClosePressed()
         }
 
@@ -245,7 +253,15 @@ QVOffersViewControllerBase {
             id: title
             objectName: "headerTitle"
             anchors.centerIn: parent
-            width: Math.min(implicitWidth, parent.width - 2 * 100)
+            width: parent.width - 2 * 100
+            height: parent.height - 12
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            // A long title takes two lines and gets smaller before it is cut.
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            fontSizeMode: Text.Fit
+            minimumPixelSize: 11
             font.pixelSize: 18
             font.bold: true
             color: theme.headerText
@@ -260,14 +276,14 @@ QVOffersViewControllerBase {
                 id: supportButton
                 objectName: "supportBtn"
                 icon: "icons/header-support.svg"
-                accessibleName: "Help and support"
+                accessibleName: qsTr("Help and support")
                 onClicked: root.onSupportPressed()
             }
             HeaderButton {
                 id: filterButton
                 objectName: "filterBtn"
                 icon: "icons/header-filter.svg"
-                accessibleName: "Sort and filter offers"
+                accessibleName: qsTr("Sort and filter offers")
                 onClicked: root.onFilterPressed()
             }
         }

@@ -15,6 +15,8 @@ Popup {
     padding: 0
     topPadding: arrowHeight
     contentItem: Item {
+        LayoutMirroring.enabled: rightToLeft
+        LayoutMirroring.childrenInherit: true
         id: defaultHost
         objectName: "popoverContent"
         clip: true

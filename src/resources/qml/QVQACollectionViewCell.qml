@@ -38,7 +38,8 @@ QVQACollectionViewCellBase {
             Text {
                 id: questionText
                 objectName: "questionLabel"
-                x: cell.padding
+                anchors.left: parent.left
+                anchors.leftMargin: cell.padding
                 y: cell.padding
                 width: parent.width - 2 * cell.padding - cell.accessoryWidth
                 text: cell.question
@@ -61,7 +62,8 @@ QVQACollectionViewCellBase {
             Text {
                 id: answerText
                 objectName: "answerLabel"
-                x: cell.padding
+                anchors.left: parent.left
+                anchors.leftMargin: cell.padding
                 y: questionText.y + questionText.height + cell.spacing
                 width: parent.width - 2 * cell.padding
                 text: cell.answer

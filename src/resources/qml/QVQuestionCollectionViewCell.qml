@@ -21,7 +21,7 @@ QVQuestionCollectionViewCellBase {
         focusPolicy: Qt.StrongFocus
         Accessible.role: Accessible.Button
         Accessible.name: cell.question
-        Accessible.description: "Shows the answer"
+        Accessible.description: qsTr("Shows the answer")
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
         onClicked: cell.selected()
@@ -37,16 +37,21 @@ QVQuestionCollectionViewCellBase {
                 objectName: "questionLabel"
                 anchors.left: parent.left
                 anchors.right: chevron.left
-                anchors.verticalCenter: parent.verticalCenter
+                anchors.top: parent.top
+                anchors.bottom: parent.bottom
                 anchors.leftMargin: 16
                 anchors.rightMargin: 8
+                anchors.topMargin: 6
+                anchors.bottomMargin: 6
+                verticalAlignment: Text.AlignVCenter
                 text: cell.question
                 font.pixelSize: 16
                 font.bold: true
                 color: theme.textPrimary
                 wrapMode: Text.Wrap
-                maximumLineCount: 3
-                elide: Text.ElideRight
+                // A long question gets smaller rather than cut.
+                fontSizeMode: Text.Fit
+                minimumPixelSize: 10
             }
             ColorImage {
                 id: chevron
@@ -56,6 +61,7 @@ QVQuestionCollectionViewCellBase {
                 width: 20
                 height: 20
                 source: "icons/chevron.svg"
+                mirror: rightToLeft
                 color: theme.textSecondary
                 sourceSize: Qt.size(40, 40)
             }

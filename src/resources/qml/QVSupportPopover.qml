@@ -10,11 +10,13 @@ QVPopover {
 
     host: supportHost
     contentItem: Item {
+        LayoutMirroring.enabled: rightToLeft
+        LayoutMirroring.childrenInherit: true
         clip: true
         Label {
             anchors.verticalCenter: supportClose.verticalCenter
             anchors.horizontalCenter: parent.horizontalCenter
-            text: "Corvel Support"
+            text: qsTr("Corvel Support")
             font.pixelSize: 16
             font.bold: true
             color: theme.textPrimary
@@ -37,7 +39,7 @@ QVPopover {
                 border.width: supportClose.visualFocus ? 2 : 0
                 border.color: theme.accent
             }
-            Accessible.name: "Close support"
+            Accessible.name: qsTr("Close support")
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()
             onClicked: popover.closeRequested()

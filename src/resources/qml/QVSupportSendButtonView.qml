@@ -17,8 +17,8 @@ QVSupportSendButtonViewBase {
         anchors.rightMargin: 12
         anchors.topMargin: 10
         anchors.bottomMargin: 14
-        text: "Send"
-        Accessible.name: "Send the message"
+        text: qsTr("Send")
+        Accessible.name: qsTr("Send the message")
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
         background: Rectangle {

@@ -25,6 +25,8 @@ QVSupportViewControllerBase {
         anchors.rightMargin: 16
         anchors.topMargin: 9
         height: 34
+        // Its width comes from its anchors; its tabs' text fits itself to that width.
+        implicitWidth: 0
         padding: 2
         spacing: 2
         onCurrentIndexChanged: root.segmentChanged(currentIndex)
@@ -33,7 +35,7 @@ QVSupportViewControllerBase {
             color: theme.tint(theme.background, theme.textPrimary, 0.06)
         }
         Repeater {
-            model: ["FAQ", "History", "Contact Us"]
+            model: [qsTr("FAQ"), qsTr("History"), qsTr("Contact Us")]
             TabButton {
                 id: segment
                 required property string modelData
@@ -50,6 +52,11 @@ QVSupportViewControllerBase {
                     text: segment.text
                     font.pixelSize: 14
                     font.bold: segment.checked
+                    // A long tab name takes two lines and gets smaller rather than cut.
+                    wrapMode: Text.Wrap
+                    maximumLineCount: 2
+                    fontSizeMode: Text.Fit
+                    minimumPixelSize: 8
                     color: segment.checked ? theme.accent : theme.textSecondary
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter

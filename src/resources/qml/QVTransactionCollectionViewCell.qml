@@ -32,10 +32,11 @@ QVTransactionCollectionViewCellBase {
         border.color: theme.separator
         clip: true
 
-        // A tab on the card's left edge; only its right-hand corners are round.
+        // A tab on the card's leading edge; only its inner corners are round.
         Item {
             id: marker
             objectName: "markerView"
+            anchors.left: parent.left
             width: 30
             anchors.top: parent.top
             anchors.bottom: parent.bottom
@@ -47,6 +48,7 @@ QVTransactionCollectionViewCellBase {
                 color: theme.payoutButton
             }
             Rectangle {
+                anchors.left: parent.left
                 width: cell.markerCornerRadius
                 height: parent.height
                 color: theme.payoutButton
@@ -90,7 +92,7 @@ QVTransactionCollectionViewCellBase {
             Label {
                 id: status
                 objectName: "statusLabel"
-                text: "Credited"
+                text: qsTr("Credited")
                 font.pixelSize: 12
                 font.bold: true
                 color: theme.payoutText

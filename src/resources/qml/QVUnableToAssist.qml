@@ -18,7 +18,8 @@ QVUnableToAssistBase {
 
         ColorImage {
             id: icon
-            x: 14
+            anchors.left: parent.left
+            anchors.leftMargin: 14
             anchors.verticalCenter: parent.verticalCenter
             width: 24
             height: 24
@@ -35,7 +36,7 @@ QVUnableToAssistBase {
             spacing: 2
             Text {
                 width: parent.width
-                text: "Rewards can take up to 24 hours"
+                text: qsTr("Rewards can take up to 24 hours")
                 font.pixelSize: 15
                 font.bold: true
                 color: theme.textPrimary
@@ -43,7 +44,7 @@ QVUnableToAssistBase {
             }
             Text {
                 width: parent.width
-                text: "Please check back tomorrow; we can't look into it sooner."
+                text: qsTr("Please check back tomorrow; we can't look into it sooner.")
                 font.pixelSize: 13
                 color: theme.textSecondary
                 wrapMode: Text.Wrap

@@ -1,0 +1,283 @@
+#include "Patience.h"
+#include "FakeOfferService.h"
+#include "QVLanguage.h"
+#include "SupportHarness.h"
+
+#include <QtCore/QTranslator>
+#include <QtQuick/QQuickItem>
+
+namespace {
+QString textOf(QQuickItem *item)
+{
+    return item ? item->property("text").toString() : QStringLiteral("(missing)");
+}
+
+// Every text the library shows, 40 % longer and in brackets, so a test can see what
+// would not fit.
+class PseudoTranslator : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        if (!context || (qstrncmp(context, "QV", 2) != 0 && qstrcmp(context, "TicketFormCheck") != 0
+                         && qstrcmp(context, "FormTextField") != 0))
+            return {};
+        const QString text = QString::fromUtf8(source);
+        QString padding;
+        const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        for (qsizetype i = 0; padding.size() < text.size() * 2 / 5 && !words.isEmpty(); ++i)
+            padding += QLatin1Char(' ') + QString(words[i % words.size()]).remove(QLatin1Char('%'));
+        return QLatin1Char('[') + text + padding + QLatin1Char(']');
+    }
+};
+
+// Texts the user can see that are cut (elided, or wider than their box, or outside the
+// window), but for offer names and descriptions, which may end in an ellipsis.
+QStringList clippedTexts(QQuickWindow *window)
+{
+    const QStringList mayElide{QStringLiteral("nameLabel"), QStringLiteral("descriptionLabel"),
+                               QStringLiteral("offernameLabel")};
+    QStringList clipped;
+    QList<QQuickItem *> items{window->contentItem()};
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        QQuickItem *item = items[i];
+        if (!item->isVisible() || item->opacity() == 0)
+            continue;
+        items += item->childItems();
+        if (!item->inherits("QQuickText") || textOf(item).isEmpty() || mayElide.contains(item->objectName()))
+            continue;
+        const QRectF inWindow = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+        const bool cut = item->property("truncated").toBool()
+            || item->property("contentWidth").toReal() > item->width() + 1
+            || inWindow.left() < -1 || inWindow.right() > window->width() + 1;
+        if (cut)
+            clipped.append(textOf(item));
+    }
+    return clipped;
+}
+} // namespace
+
+#define VERIFY_NOTHING_CLIPPED(window)                                                                     \
+    do {                                                                                                   \
+        const QStringList clipped = clippedTexts(window);                                                  \
+        QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(QStringLiteral(" | "))));                      \
+    } while (false)
+
+class tst_QVLanguage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void germanOnTheWallThePanelAndTheForm();
+    void englishForEnglishOrAnUnknownLanguage_data();
+    void englishForEnglishOrAnUnknownLanguage();
+    void logLinesStayEnglish();
+    void faqInTheLanguageOrEnglish_data();
+    void faqInTheLanguageOrEnglish();
+    void arabicMirrorsTheHeaderAndTheCells();
+    void pseudoLanguageClipsNothing_data();
+    void pseudoLanguageClipsNothing();
+
+private:
+    FakeOfferService m_service;
+};
+
+void tst_QVLanguage::initTestCase()
+{
+    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
+}
+
+void tst_QVLanguage::init()
+{
+    QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
+    QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
+    m_service.setTotalOffers(95);
+    m_service.setOffersDropped(false);
+}
+
+void tst_QVLanguage::cleanup()
+{
+    finishPendingRequests();
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+}
+
+void tst_QVLanguage::germanOnTheWallThePanelAndTheForm()
+{
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    SupportHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(textOf(harness.find(QStringLiteral("headerTitle"))), QStringLiteral("Gems verdienen"));
+    QCOMPARE(harness.find(QStringLiteral("closeBtn"))->property("accessibleName").toString(),
+             QStringLiteral("Angebote schließen"));
+
+    harness.wall->onFilterPressed();
+    QTRY_VERIFY(harness.wall->filterVC() && !harness.wall->isOverlayAnimating());
+    QCOMPARE(textOf(harness.find(QStringLiteral("headerTitle"))), QStringLiteral("Sortieren/Filtern"));
+    QCOMPARE(harness.wall->filterVC()->titleForSection(0), QStringLiteral("Sortieren nach"));
+    QCOMPARE(harness.wall->filterVC()->titleForRow(0, 0), QStringLiteral("Beliebtheit"));
+    harness.wall->headerTapped();
+    QTRY_VERIFY(!harness.wall->isFiltersViewOpen() && !harness.wall->isOverlayAnimating());
+
+    QVEmailViewController *form = harness.openForm();
+    QVERIFY(form);
+    QCOMPARE(textOf(form->chooseSubjectView()->notCreditBtn()),
+             QStringLiteral("Ich habe ein Angebot abgeschlossen, aber keine Gutschrift erhalten"));
+    harness.clickInForm(form, form->chooseSubjectView()->reportBtn());
+    QTRY_VERIFY(form->sendButtonView());
+    harness.clickInForm(form, form->sendButtonView()->sendBtn());
+    QTRY_VERIFY(harness.wall->supportVC()->errorLabel()->isVisible());
+    QCOMPARE(textOf(harness.wall->supportVC()->errorLabel()), QStringLiteral("Bitte gib einen gültigen Namen ein"));
+    QCOMPARE(quorva::detail::libraryLocale().language(), QLocale::German);
+}
+
+void tst_QVLanguage::englishForEnglishOrAnUnknownLanguage_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedKingdom);
+    QTest::newRow("Italian, which has no translation") << QLocale(QLocale::Italian, QLocale::Italy);
+}
+
+void tst_QVLanguage::englishForEnglishOrAnUnknownLanguage()
+{
+    QFETCH(QLocale, locale);
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    { WallHarness german; } // a German wall first: its language must not linger
+    QLocale::setDefault(locale);
+    m_service.setTotalOffers(0);
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(textOf(harness.find(QStringLiteral("headerTitle"))), QStringLiteral("Earn Gems"));
+    QTRY_VERIFY(harness.find(QStringLiteral("noOffersLabel"))->isVisible());
+    QCOMPARE(textOf(harness.find(QStringLiteral("noOffersLabel"))), QStringLiteral("No offers right now"));
+    QVERIFY(!harness.wall->isRightToLeft());
+}
+
+void tst_QVLanguage::logLinesStayEnglish()
+{
+    for (const auto language : {QLocale::German, QLocale::Spanish, QLocale::French, QLocale::Portuguese,
+                                QLocale::Arabic}) {
+        QLocale::setDefault(QLocale(language, language == QLocale::Portuguese ? QLocale::Brazil : QLocale::AnyTerritory));
+        m_service.setOffersDropped(true);
+        QTest::ignoreMessage(QtInfoMsg, "offers request failed");
+        WallHarness harness;
+        QVERIFY(harness.show());
+        QTRY_VERIFY(harness.wall->loadFailed());
+        QVERIFY(quorva::detail::libraryLocale().language() == language);
+        QVERIFY(textOf(harness.find(QStringLiteral("retryButton"))) != QStringLiteral("Try again"));
+        finishPendingRequests();
+    }
+}
+
+void tst_QVLanguage::faqInTheLanguageOrEnglish_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("firstQuestion");
+    QTest::newRow("German") << QLocale(QLocale::German, QLocale::Austria) << "Wie verdiene ich Belohnungen?";
+    QTest::newRow("Brazilian Portuguese") << QLocale(QLocale::Portuguese, QLocale::Brazil) << "Como ganho recompensas?";
+    QTest::newRow("Italian: no list of its own") << QLocale(QLocale::Italian, QLocale::Italy) << "How do I earn rewards?";
+}
+
+void tst_QVLanguage::faqInTheLanguageOrEnglish()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, firstQuestion);
+    QLocale::setDefault(locale);
+    SupportHarness harness;
+    QVERIFY(harness.show());
+    QVSupportViewController *support = harness.openSupport();
+    QVERIFY(support);
+    QTRY_VERIFY(support->faqViewController()->model()->rowCount() > 0);
+    QCOMPARE(support->faqViewController()->model()->data(support->faqViewController()->model()->index(0, 0)).toString(),
+             firstQuestion);
+}
+
+void tst_QVLanguage::arabicMirrorsTheHeaderAndTheCells()
+{
+    QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
+    WallHarness harness;
+    QVERIFY(harness.wall->isRightToLeft());
+    QVERIFY(harness.show());
+    QTRY_VERIFY(!harness.cells().isEmpty());
+    auto centreX = [](QQuickItem *item) { return item->mapToScene(QPointF(item->width() / 2, 0)).x(); };
+    const qreal middle = harness.window->width() / 2.0;
+    QVERIFY(centreX(harness.find(QStringLiteral("closeBtn"))) > middle);
+    QVERIFY(centreX(harness.find(QStringLiteral("filterBtn"))) < middle);
+    QVERIFY(centreX(harness.find(QStringLiteral("supportBtn"))) < middle);
+    QVOfferUICollectionViewCell *cell = harness.cells().first();
+    QVERIFY(centreX(cell->creditsBtn()) < centreX(cell->property("nameLabel").value<QQuickItem *>()));
+    QVERIFY(centreX(cell->property("nameLabel").value<QQuickItem *>()) < centreX(cell->thumbImage()));
+    QVERIFY(textOf(harness.find(QStringLiteral("headerTitle"))).startsWith(QStringLiteral("اربح")));
+}
+
+// The pseudo-language, then every real one.
+void tst_QVLanguage::pseudoLanguageClipsNothing_data()
+{
+    QTest::addColumn<bool>("tablet");
+    QTest::addColumn<QString>("language");
+    for (const char *language : {"pseudo", "de_DE", "es_ES", "fr_FR", "pt_BR", "ar_EG"}) {
+        QTest::addRow("%s, phone", language) << false << QString::fromLatin1(language);
+        QTest::addRow("%s, tablet", language) << true << QString::fromLatin1(language);
+    }
+}
+
+void tst_QVLanguage::pseudoLanguageClipsNothing()
+{
+    QFETCH(bool, tablet);
+    QFETCH(QString, language);
+    QVDevice::setUserInterfaceIdiom(tablet ? QVDevice::Idiom::Tablet : QVDevice::Idiom::Phone);
+    PseudoTranslator pseudo;
+    if (language == QLatin1String("pseudo"))
+        QCoreApplication::installTranslator(&pseudo);
+    else
+        QLocale::setDefault(QLocale(language));
+    const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&pseudo); });
+
+    // The wall with its failure state and the filter panel.
+    m_service.setOffersDropped(true);
+    QTest::ignoreMessage(QtInfoMsg, "offers request failed");
+    SupportHarness harness(tablet ? QSize(1024, 768) : QSize(390, 780));
+    QVERIFY(harness.show());
+    QTRY_VERIFY(harness.wall->loadFailed());
+    QTRY_VERIFY(harness.alert() && harness.alert()->property("opened").toBool());
+    QVERIFY(harness.nextFrame());
+    VERIFY_NOTHING_CLIPPED(harness.window.get());
+    QMetaObject::invokeMethod(harness.alert(), "close");
+    QTRY_VERIFY(!harness.alert());
+    m_service.setOffersDropped(false);
+    harness.wall->onRetryPressed();
+    QTRY_VERIFY(harness.wall->offerCount() > 0);
+    harness.wall->onFilterPressed();
+    QTRY_VERIFY(harness.wall->filterVC() && !harness.wall->isOverlayAnimating());
+    QVERIFY(harness.nextFrame());
+    VERIFY_NOTHING_CLIPPED(harness.window.get());
+
+    // Every tab of the support centre, and the form in each state with its error strip.
+    SupportHarness supportHarness(tablet ? QSize(1024, 768) : QSize(390, 780));
+    QVERIFY(supportHarness.show());
+    QVSupportViewController *support = supportHarness.openSupport();
+    QVERIFY(support);
+    QVERIFY(supportHarness.nextFrame());
+    VERIFY_NOTHING_CLIPPED(supportHarness.window.get());
+    SupportHarness::showTab(support, QVSupportViewController::HistoryTab);
+    QVERIFY(supportHarness.nextFrame());
+    VERIFY_NOTHING_CLIPPED(supportHarness.window.get());
+    SupportHarness::showTab(support, QVSupportViewController::FormTab);
+    QVEmailViewController *form = support->emailViewController();
+    QVERIFY(supportHarness.nextFrame());
+    for (QQuickItem *choice : {form->chooseSubjectView()->notCreditBtn(), form->chooseSubjectView()->reportBtn()}) {
+        supportHarness.clickInForm(form, choice);
+        QVERIFY(supportHarness.nextFrame());
+        VERIFY_NOTHING_CLIPPED(supportHarness.window.get());
+    }
+    supportHarness.clickInForm(form, form->sendButtonView()->sendBtn());
+    QTRY_VERIFY(support->errorLabel()->isVisible());
+    QVERIFY(supportHarness.nextFrame());
+    VERIFY_NOTHING_CLIPPED(supportHarness.window.get());
+}
+
+QTEST_MAIN(tst_QVLanguage)
+#include "tst_QVLanguage.moc"

@@ -11,7 +11,9 @@
 void creditUser(const SandboxProcess &sandbox, const QString &wallId, const QString &user, const QString &offerName, int amount,
                 std::function<void(bool stored)> done)
 {
-    static auto *network = new QNetworkAccessManager(QCoreApplication::instance());
+    // One manager per credit, gone with its reply: a manager left to the end of the
+    // program would close its TLS connections after Qt's TLS backend is unloaded.
+    auto *network = new QNetworkAccessManager;
     QNetworkRequest request(QUrl(QStringLiteral("https://%1/sandbox/publisher/1042/profile/%2/user/%3/credits.json")
                                      .arg(sandbox.baseAddress(), wallId, user)));
     QSslConfiguration trust = QSslConfiguration::defaultConfiguration();
@@ -20,8 +22,9 @@ void creditUser(const SandboxProcess &sandbox, const QString &wallId, const QStr
     request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
     const QJsonObject body{{QStringLiteral("offer_name"), offerName}, {QStringLiteral("currency_adjustment"), amount}};
     QNetworkReply *reply = network->post(request, QJsonDocument(body).toJson(QJsonDocument::Compact));
-    QObject::connect(reply, &QNetworkReply::finished, reply, [reply, done = std::move(done)] {
+    QObject::connect(reply, &QNetworkReply::finished, reply, [network, reply, done = std::move(done)] {
         done(reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt() == 201);
         reply->deleteLater();
+        network->deleteLater();
     });
 }

@@ -6,6 +6,8 @@
 #include <QtGui/QAccessible>
 #include <QtGui/QDesktopServices>
 #include <QtGui/QPalette>
+#include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 
@@ -47,6 +49,7 @@ private slots:
     void creditsShowAsOneNotice();
     void themeColoursTheWallWhileOpen();
     void closeButtonTellsTheHost();
+    void hostEndsWithoutWarnings();
     void qmlHostDeclaresTheWall();
 
 private:
@@ -495,6 +498,24 @@ void tst_QVOffersViewController::themeColoursTheWallWhileOpen()
     QTRY_COMPARE(following.wall->theme(), QVTheme::dark());
     QCOMPARE(followed.count(), 1);
     QCOMPARE(harness.wall->theme(), brand); // a theme the host set stays
+}
+
+// A host that showed a wall and its pictures ends its program without Qt printing a
+// warning on the way out.
+void tst_QVOffersViewController::hostEndsWithoutWarnings()
+{
+    QTemporaryDir runtime;
+    QFile::setPermissions(runtime.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QProcess host;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime.path());
+    host.setProcessEnvironment(environment);
+    host.start(QStringLiteral(QUORVA_HOST_LIFE_PROBE), QStringList());
+    QVERIFY(host.waitForFinished(kPatienceMs * 2));
+    QCOMPARE(host.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(host.exitCode(), 0);
+    const QString printed = QString::fromLocal8Bit(host.readAllStandardError()).trimmed();
+    QVERIFY2(printed.isEmpty(), qPrintable(printed));
 }
 
 void tst_QVOffersViewController::closeButtonTellsTheHost()

@@ -13,6 +13,8 @@ class QUORVAMEDIA_EXPORT QVOfferDateCompletedView : public QQuickItem
     Q_PROPERTY(QQuickItem *dateBtn MEMBER m_dateBtn NOTIFY outletsChanged FINAL)
     Q_PROPERTY(QQuickItem *dateIcon MEMBER m_dateIcon NOTIFY outletsChanged FINAL)
     Q_PROPERTY(QString dateIconName READ dateIconName NOTIFY dateIconNameChanged FINAL)
+    // The button's title until a date is chosen; the form reads it as "no date".
+    Q_PROPERTY(QString placeholder READ placeholder CONSTANT FINAL)
 
 public:
     static constexpr QLatin1StringView kPlaceholder{"MM/DD/YY"};
@@ -22,6 +24,7 @@ public:
 
     QQuickItem *dateBtn() const { return m_dateBtn; }
     QString dateIconName() const { return m_dateIconName; }
+    static QString placeholder() { return kPlaceholder; }
 
     void notValid();
     void dateValidated();

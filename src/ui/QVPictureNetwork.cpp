@@ -22,7 +22,14 @@ void QVPictureNetwork::addCaCertificates(const QList<QSslCertificate> &certifica
 QNetworkReply *QVPictureNetwork::get(const QUrl &url)
 {
     Q_ASSERT(QThread::currentThread() == QCoreApplication::instance()->thread());
-    static QNetworkAccessManager *network = new QNetworkAccessManager(QCoreApplication::instance());
+    static QNetworkAccessManager *network = [] {
+        auto *manager = new QNetworkAccessManager;
+        // Gone while the application still is: its connection threads close their TLS
+        // sockets as they end, and after the application that would reach a TLS
+        // backend Qt has already unloaded.
+        qAddPostRoutine([] { delete network; });
+        return manager;
+    }();
     QNetworkRequest request(url);
     request.setSslConfiguration(pictureTrust());
     return network->get(request);

@@ -45,7 +45,7 @@ QVOfferDateCompletedViewBase {
             anchors.verticalCenter: parent.verticalCenter
             implicitWidth: 118
             implicitHeight: 40
-            text: "MM/DD/YY" // the form reads this as "no date chosen"
+            text: view.placeholder
             Accessible.name: qsTr("Completion date: %1").arg(text)
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()

@@ -152,6 +152,11 @@ void tst_ReplyParsers::offersReadDirectlyAsGenerally_data()
     QTest::newRow("a top-level list") << QByteArray(R"([{"offers":[]}])") << 0 << false;
     QTest::newRow("empty body") << QByteArray() << 0 << false;
     QTest::newRow("a number out of range") << QByteArray(R"({"offers":[{"currency_count":1e400}]})") << -1 << false;
+    QTest::newRow("an identifier out of range") << QByteArray(R"({"offers":[{"offer_id":"a","name":"x"},{"offer_id":1e890}]})") << -1 << false;
+    QTest::newRow("a skipped value out of range") << QByteArray(R"({"offers":[{"offer_id":"a"},{"x":123456789e1234567890}]})") << -1 << false;
+    QTest::newRow("a skipped value too small") << QByteArray(R"({"offers":[{"name":"a"}],"n":1E-400})") << -1 << false;
+    QTest::newRow("a large amount with an exponent") << QByteArray(R"({"offers":[{"currency_count":1234567890123456789E0}]})") << 1 << true;
+    QTest::newRow("exponents and fractions") << QByteArray(R"({"offers":[{"currency_count":2.5e2},{"currency_count":-1E+2},{"offer_id":1e15},{"offer_id":1e16},{"currency_count":123456789012345678901234567890}]})") << 5 << true;
 }
 
 void tst_ReplyParsers::offersReadDirectlyAsGenerally()

@@ -1,6 +1,8 @@
 #include "OffersReader.h"
 #include "JsonValues.h"
 
+#include <QtCore/QJsonDocument>
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -306,22 +308,35 @@ private:
             while (m_p < m_end && isDigit(*m_p))
                 ++m_p;
         }
-        if (!target)
-            return true;
         if (integral) {
             qint64 whole = 0;
             const auto [end, error] = std::from_chars(start, m_p, whole);
             if (error == std::errc() && end == m_p) {
-                *target = json::numberText(QJsonValue(whole));
+                if (target)
+                    *target = json::numberText(QJsonValue(whole));
                 return true;
             }
         }
+        // A number no double can hold, skipped or not, is the general reader's call: it
+        // refuses the whole reply.
         double value = 0;
         const auto [end, error] = std::from_chars(start, m_p, value);
         if (error != std::errc() || end != m_p || !std::isfinite(value))
             return false;
-        *target = json::numberText(QJsonValue(value));
+        if (target)
+            *target = generalNumberText(std::string_view(start, std::size_t(m_p - start)));
         return true;
+    }
+
+    // The text the general reader gives the number: it turns an integral double that
+    // fits into an integer, so its text must come from the same parse. Rare in a reply,
+    // so its cost does not matter.
+    static QString generalNumberText(std::string_view number)
+    {
+        QByteArray document;
+        document.reserve(qsizetype(number.size()) + 2);
+        document.append('[').append(number.data(), qsizetype(number.size())).append(']');
+        return json::numberText(QJsonDocument::fromJson(document).array().at(0));
     }
 
     bool literal(std::string_view word)

@@ -42,6 +42,7 @@ private slots:
     void failedFirstPageOffersTryAgain();
     void profileTitleAndItsSilentFailure();
     void twoColumnsInAWideWindow();
+    void turningKeepsTheFirstOfferOnScreen();
     void scrolledCellsAreReusedAndShowTheirOffers_data();
     void scrolledCellsAreReusedAndShowTheirOffers();
     void cellShowsOfferAndPayout();
@@ -285,6 +286,33 @@ void tst_QVOffersViewController::twoColumnsInAWideWindow()
     QCOMPARE(place(harness.cells()[1]).y(), place(harness.cells()[0]).y());
     QCOMPARE(harness.cells()[0]->size(), QSizeF(300.5, 150));
     QCOMPARE(harness.cells()[2]->row(), 2);
+}
+
+void tst_QVOffersViewController::turningKeepsTheFirstOfferOnScreen()
+{
+    WallHarness harness;
+    QVERIFY(harness.show());
+    QTRY_COMPARE(harness.wall->offersList().size(), 30);
+    // Offers whose cells show inside the list's height, top first.
+    auto offersOnScreen = [&] {
+        QMap<qreal, int> offers;
+        for (QVOfferUICollectionViewCell *cell : harness.cells()) {
+            const QPointF at = cell->mapToItem(harness.list(), QPointF(0, 0));
+            if (at.y() > -cell->height() / 2 && at.y() < harness.list()->height())
+                offers.insert(at.y() * 10000 + at.x(), cell->row());
+        }
+        return offers.values();
+    };
+    QMetaObject::invokeMethod(harness.list(), "positionViewAtIndex", Q_ARG(int, 11), Q_ARG(int, 0)); // at the top
+    QVERIFY(harness.nextFrame());
+    const int first = offersOnScreen().value(0, -1);
+    QCOMPARE(first, 11);
+    for (const QSize size : {QSize(780, 390), QSize(390, 780), QSize(1024, 768), QSize(390, 780)}) {
+        harness.resize(size);
+        QVERIFY(harness.nextFrame());
+        QTRY_VERIFY2(offersOnScreen().contains(first),
+                     qPrintable(QStringLiteral("offer %1 after turning to %2 wide").arg(first).arg(size.width())));
+    }
 }
 
 void tst_QVOffersViewController::scrolledCellsAreReusedAndShowTheirOffers_data()

@@ -253,6 +253,8 @@ private:
     Q_DECL_HIDDEN void layoutFilterPanel();
     Q_DECL_HIDDEN void layoutSupportPanel();
     Q_DECL_HIDDEN qreal listHeight() const;
+    // The first offer whose row shows at the top of the list, or -1.
+    Q_DECL_HIDDEN int firstOfferOnScreen() const;
     Q_DECL_HIDDEN qreal listWidth() const;
 
     QVOffersViewControllerDelegate *m_delegate = nullptr;

@@ -12,6 +12,8 @@
 #include <QtQml/QQmlEngine>
 
 namespace {
+// ListView.Beginning: the row is put at the top of the view.
+constexpr int kListViewBeginning = 0;
 constexpr const char *kFiltersTitle = QT_TRANSLATE_NOOP("QVOffersViewController", "Sort/Filter Offers");
 constexpr const char *kSupportTitle = QT_TRANSLATE_NOOP("QVOffersViewController", "Corvel Support");
 constexpr QLatin1StringView kBlurViewType("QVBlurView");
@@ -333,13 +335,31 @@ void QVOffersViewController::onSaveFiltersPressed(const std::optional<QVCategory
         dismissPopover(m_filterPopover);
 }
 
+int QVOffersViewController::firstOfferOnScreen() const
+{
+    if (!m_collectionView)
+        return -1;
+    // The row under the list's top edge, a point into it so a row's own top counts.
+    const qreal y = m_collectionView->property("contentY").toReal() + 1;
+    int row = -1;
+    QMetaObject::invokeMethod(m_collectionView, "indexAt", Q_RETURN_ARG(int, row), Q_ARG(qreal, 1), Q_ARG(qreal, y));
+    return row < 0 ? -1 : row * m_offers->columns();
+}
+
 void QVOffersViewController::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     QQuickItem::geometryChange(newGeometry, oldGeometry);
     if (newGeometry.size() == oldGeometry.size())
         return;
     emit cellSizeChanged();
-    m_offers->setColumns(columns());
+    if (m_offers->columns() != columns()) {
+        // Rows change their length: the offer at the top of the screen stays there.
+        const int firstOffer = firstOfferOnScreen();
+        m_offers->setColumns(columns());
+        if (firstOffer > 0 && m_collectionView)
+            QMetaObject::invokeMethod(m_collectionView, "positionViewAtIndex", Q_ARG(int, firstOffer / columns()),
+                                      Q_ARG(int, kListViewBeginning));
+    }
     layoutFilterPanel();
     layoutSupportPanel();
     // A size transition (rotation) takes a presented popover away.

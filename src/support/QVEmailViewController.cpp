@@ -88,6 +88,12 @@ void QVEmailViewController::watchKeyboard()
     };
     connect(keyboard, &QInputMethod::visibleChanged, this, changed);
     connect(keyboard, &QInputMethod::keyboardRectangleChanged, this, changed);
+    // Moving to another field with the keyboard up shows it again for that field, as a
+    // phone does, so the field's own rule (the send button for the details) applies.
+    connect(qGuiApp, &QGuiApplication::focusObjectChanged, this, [this, keyboard, changed] {
+        if (keyboard->isVisible())
+            QMetaObject::invokeMethod(this, changed, Qt::QueuedConnection);
+    });
 }
 
 qreal QVEmailViewController::getMaximumHeight() const

@@ -1,0 +1,187 @@
+#include "Patience.h"
+#include "FakeOfferService.h"
+#include "SupportHarness.h"
+
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlEngine>
+
+// The ticket form with Qt's on-screen keyboard, added by the host at the bottom of its
+// window the way a phone shows its keyboard, and typed on key by key.
+class tst_QVKeyboard : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup() { finishPendingRequests(); }
+
+    void typingOnTheKeysKeepsTheFieldAndSendInSight();
+    void tabletKeepsItsOwnRules();
+
+private:
+    // The wall's window, active, with the host's keyboard panel across its bottom; above
+    // the popups' overlay, so that a popover does not cover it.
+    QQuickItem *showWithKeyboard(SupportHarness &harness)
+    {
+        QQuickItem *panel = addKeyboard(harness);
+        if (!panel || !harness.show())
+            return nullptr;
+        harness.window->requestActivate();
+        return QTest::qWaitForWindowActive(harness.window.get()) ? panel : nullptr;
+    }
+
+    QQuickItem *addKeyboard(SupportHarness &harness)
+    {
+        QQmlComponent component(&m_engine);
+        component.setData("import QtQuick\nimport QtQuick.VirtualKeyboard\n"
+                          "InputPanel { z: 2000000; width: parent ? parent.width : 0\n"
+                          "    y: parent ? (Qt.inputMethod.visible ? parent.height - height : parent.height) : 0 }\n",
+                          QUrl());
+        if (!component.isReady()) {
+            qWarning().noquote() << component.errorString();
+            return nullptr;
+        }
+        auto *panel = qobject_cast<QQuickItem *>(component.createWithInitialProperties(
+            {{QStringLiteral("parent"), QVariant::fromValue(harness.window->contentItem())}}));
+        return panel;
+    }
+
+    // Presses the on-screen key whose property has the value.
+    bool pressKey(SupportHarness &harness, QQuickItem *panel, const char *property, const QString &value)
+    {
+        QList<QQuickItem *> items{panel};
+        for (qsizetype i = 0; i < items.size(); ++i) {
+            QQuickItem *item = items[i];
+            items += item->childItems();
+            if (item->metaObject()->indexOfProperty("displayText") < 0 || !item->isVisible()
+                || item->property(property).toString() != value)
+                continue;
+            const QPoint centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+            // A finger on the key: the keyboard reads touches.
+            QTest::touchEvent(harness.window.get(), m_touchScreen).press(0, centre, harness.window.get());
+            QTest::touchEvent(harness.window.get(), m_touchScreen).release(0, centre, harness.window.get());
+            return true;
+        }
+        return false;
+    }
+
+    // The key that turns to the symbols page and back. Synthesised touches reach the
+    // letter keys but not this one, so it is clicked the way its own handler is.
+    static bool switchPage(QQuickItem *panel)
+    {
+        QList<QQuickItem *> items{panel};
+        for (qsizetype i = 0; i < items.size(); ++i) {
+            QQuickItem *item = items[i];
+            items += item->childItems();
+            const QString shown = item->property("displayText").toString();
+            if (item->isVisible() && (shown == QLatin1String("&123") || shown == QLatin1String("ABC")))
+                return QMetaObject::invokeMethod(item, "clicked");
+        }
+        return false;
+    }
+
+    // Types text key by key; a character the letters do not have ("@") is on the
+    // symbols page, and the letters are one press away from there.
+    bool typeOnKeys(SupportHarness &harness, QQuickItem *panel, QQuickItem *field, const QString &text)
+    {
+        for (const QChar c : text) {
+            const qsizetype before = field->property("displayText").toString().size();
+            if (!pressKey(harness, panel, "text", QString(c))) {
+                if (!switchPage(panel) || !QTest::qWaitFor([&] { return pressKey(harness, panel, "text", QString(c)); }, kPatienceMs))
+                    return false;
+            }
+            // Typed text may wait as a word in progress: what the field shows counts.
+            if (!QTest::qWaitFor([&] { return field->property("displayText").toString().size() > before; }, kPatienceMs))
+                return false;
+        }
+        return true;
+    }
+
+    static qreal bottomInWindow(QQuickItem *item)
+    {
+        return item->mapToScene(QPointF(0, item->height())).y();
+    }
+
+    FakeOfferService m_service;
+    QQmlEngine m_engine;
+    QPointingDevice *m_touchScreen = QTest::createTouchDevice();
+};
+
+void tst_QVKeyboard::initTestCase()
+{
+    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
+}
+
+void tst_QVKeyboard::init()
+{
+    QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
+}
+
+void tst_QVKeyboard::typingOnTheKeysKeepsTheFieldAndSendInSight()
+{
+    QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
+    SupportHarness harness;
+    QQuickItem *panel = showWithKeyboard(harness);
+    QVERIFY(panel);
+    QVEmailViewController *form = harness.openForm();
+    QVERIFY(form);
+    harness.clickInForm(form, form->chooseSubjectView()->reportBtn());
+    QTRY_VERIFY(form->sendButtonView());
+
+    QQuickItem *name = form->enterInfoView()->nameTextField();
+    harness.clickInForm(form, name);
+    QTRY_VERIFY(QGuiApplication::inputMethod()->isVisible());
+    QTRY_COMPARE(form->keyboardInset(), panel->height());
+    auto keyboardTop = [&] { return harness.window->height() - panel->height(); };
+    QTRY_VERIFY(bottomInWindow(name) <= keyboardTop());
+    QVERIFY(typeOnKeys(harness, panel, name, QStringLiteral("ada")));
+    QCOMPARE(name->property("text").toString().toLower(), QStringLiteral("ada"));
+
+    QQuickItem *email = form->enterInfoView()->emailTextField();
+    harness.clickInForm(form, email);
+    QTRY_VERIFY(email->hasActiveFocus());
+    QTRY_VERIFY(bottomInWindow(email) <= keyboardTop());
+    QVERIFY(typeOnKeys(harness, panel, email, QStringLiteral("ada@example.com")));
+    QCOMPARE(email->property("text").toString(), QStringLiteral("ada@example.com"));
+
+    // Writing the details brings the send button up above the keyboard.
+    harness.clickInForm(form, form->enterCommentView()->commentInputField());
+    QTRY_VERIFY(form->enterCommentView()->commentInputField()->hasActiveFocus());
+    QTRY_VERIFY(bottomInWindow(form->sendButtonView()) <= keyboardTop() + 0.5);
+
+    QGuiApplication::inputMethod()->hide();
+    QTRY_COMPARE(form->keyboardInset(), 0.0);
+}
+
+void tst_QVKeyboard::tabletKeepsItsOwnRules()
+{
+    QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Tablet);
+    const auto phone = qScopeGuard([] { QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone); });
+    SupportHarness harness(QSize(1024, 768));
+    QQuickItem *panel = showWithKeyboard(harness);
+    QVERIFY(panel);
+    QVEmailViewController *form = harness.openForm();
+    QVERIFY(form);
+    QQuickItem *name = form->enterInfoView()->nameTextField();
+    harness.clickInForm(form, name);
+    QTRY_VERIFY(QGuiApplication::inputMethod()->isVisible());
+    QTRY_VERIFY(panel->y() < harness.window->height());
+    QVERIFY(typeOnKeys(harness, panel, name, QStringLiteral("bo")));
+    // A tablet's form makes no room: its popover floats above the keyboard's rows.
+    QCOMPARE(form->keyboardInset(), 0.0);
+    QGuiApplication::inputMethod()->hide();
+    QTRY_VERIFY(!QGuiApplication::inputMethod()->isVisible());
+    QCOMPARE(form->keyboardInset(), 0.0);
+}
+
+int main(int argc, char **argv)
+{
+    // The on-screen keyboard is chosen before the application starts, as a host does.
+    qputenv("QT_IM_MODULE", QByteArrayLiteral("qtvirtualkeyboard"));
+    QGuiApplication app(argc, argv);
+    tst_QVKeyboard test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_QVKeyboard.moc"

@@ -35,6 +35,7 @@ int ScreenshotTour::run()
         renderScreens(camera);
     }
     setLook({});
+    shootFormWithKeyboard(camera);
     return camera.failures() == 0 ? 0 : 1;
 }
 

@@ -1,8 +1,11 @@
 #include "SupportTour.h"
+#include "KeyboardPanel.h"
 #include "SandboxProcess.h"
 #include "Tour.h"
 
 #include <QtCore/QDate>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QInputMethod>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -151,4 +154,31 @@ void runSupportTour(Camera &camera, SandboxProcess &sandbox)
         tap(tablet->window.get(), tabletForm->chooseSubjectView()->reportBtn());
         camera.shoot(*tablet, QStringLiteral("tablet-support-form"), [&] { return formInState(tabletForm, 4); });
     }
+}
+
+void shootFormWithKeyboard(Camera &camera)
+{
+    auto scene = openWall(QStringLiteral("7"), QVDevice::Idiom::Phone);
+    QQuickWindow *window = scene->window.get();
+    QQuickItem *panel = addKeyboardPanel(window);
+    if (!panel) {
+        camera.fail(QStringLiteral("the on-screen keyboard is not installed"));
+        return;
+    }
+    // Keys go to the active window.
+    window->requestActivate();
+    spinUntil([window] { return window->isActive(); });
+    QVSupportViewController *support = openSupport(camera, *scene);
+    if (!support)
+        return;
+    showTab(support, QVSupportViewController::FormTab);
+    QVEmailViewController *form = support->emailViewController();
+    tap(window, form->chooseSubjectView()->reportBtn());
+    QQuickItem *name = form->enterInfoView()->nameTextField();
+    tap(window, name);
+    name->setProperty("text", QStringLiteral("Ada"));
+    camera.shoot(*scene, QStringLiteral("phone-support-form-keyboard"), [&] {
+        return QGuiApplication::inputMethod()->isVisible() && form->keyboardInset() > 0
+            && qFuzzyCompare(panel->y() + panel->height(), qreal(window->height()));
+    });
 }

@@ -2,6 +2,7 @@
 // With a display it opens a phone- or tablet-sized window; with --screenshots it renders
 // the main screens to PNG files and prints their paths.
 #include "ConsoleReport.h"
+#include "KeyboardPanel.h"
 #include "SandboxCredits.h"
 #include "SandboxProcess.h"
 #include "ScreenshotTour.h"
@@ -9,6 +10,7 @@
 #include <QuorvaMedia/QuorvaMedia.h>
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QLoggingCategory>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QShortcut>
 #include <QtQuick/QQuickWindow>
@@ -25,7 +27,13 @@ public:
 
 int main(int argc, char **argv)
 {
+    // Qt's on-screen keyboard, as a phone shows one, unless the host environment chose
+    // another input method.
+    if (qEnvironmentVariableIsEmpty("QT_IM_MODULE"))
+        qputenv("QT_IM_MODULE", QByteArrayLiteral("qtvirtualkeyboard"));
     QGuiApplication app(argc, argv);
+    // The keyboard's word suggestions need a dictionary the demo does not install.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.virtualkeyboard.hunspell.warning=false"));
     QGuiApplication::setApplicationName(QStringLiteral("Quorva Demo"));
 
     QCommandLineParser parser;
@@ -99,6 +107,7 @@ int main(int argc, char **argv)
     offerWall->setSize(window.size());
     QObject::connect(&window, &QQuickWindow::widthChanged, offerWall, [&] { offerWall->setSize(window.size()); });
     QObject::connect(&window, &QQuickWindow::heightChanged, offerWall, [&] { offerWall->setSize(window.size()); });
+    addKeyboardPanel(&window);
     window.show();
     return app.exec();
 }

@@ -5,17 +5,20 @@
 #include <QtCore/QDateTime>
 
 namespace {
-// As the client writes a transaction's time.
-constexpr QLatin1StringView kClientFormat("MM/dd/yyyy hh:mm:ss");
+// How the client writes a transaction's date, before its clock time.
+constexpr QLatin1StringView kClientDateFormat("MM/dd/yyyy");
 
-// In English as the client wrote it; in another language as that language writes a date.
+// In English as the client wrote it; in another language the date as that language
+// writes one. The client's clock time (twelve hours, no AM or PM) stays as it is: it
+// cannot be told apart from the other half of the day.
 QString localTimestamp(const QString &timestamp)
 {
     const QLocale locale = quorva::detail::libraryLocale();
     if (locale.language() == QLocale::English || timestamp.isEmpty())
         return timestamp;
-    const QDateTime time = QDateTime::fromString(timestamp, kClientFormat);
-    return time.isValid() ? locale.toString(time, QLocale::ShortFormat) : timestamp;
+    const QDate date = QDate::fromString(timestamp.left(kClientDateFormat.size()), kClientDateFormat);
+    return date.isValid() ? locale.toString(date, QLocale::ShortFormat) + timestamp.mid(kClientDateFormat.size())
+                          : timestamp;
 }
 } // namespace
 

@@ -1,8 +1,10 @@
-# Asks rcc to compress a QML module's interface files whenever that saves at least
-# `threshold` percent. Qt writes the module's resource list when the module is
-# declared, so this edits that list right after, before rcc ever reads it.
+# Asks rcc to compress a target's interface files, property lists and translations
+# whenever that saves at least `threshold` percent (rcc's own default asks for 70).
+# Qt writes each resource list when it is declared, so this edits the lists right
+# after, before rcc ever reads them.
 function(quorva_compress_qml_resources target threshold)
-    file(GLOB lists "${CMAKE_CURRENT_BINARY_DIR}/.rcc/${target}_raw_qml_*.qrc")
+    file(GLOB lists "${CMAKE_CURRENT_BINARY_DIR}/.rcc/${target}_raw_qml_*.qrc"
+                    "${CMAKE_CURRENT_BINARY_DIR}/.rcc/${target}_translations.qrc")
     if(NOT lists)
         message(WARNING "No resource list of ${target} to compress; its interface files stay uncompressed")
         return()

@@ -47,38 +47,37 @@ private:
         return panel;
     }
 
-    // Presses the on-screen key whose property has the value.
-    bool pressKey(SupportHarness &harness, QQuickItem *panel, const char *property, const QString &value)
+    // The visible on-screen key whose property has the value.
+    static QQuickItem *key(QQuickItem *panel, const char *property, const QString &value)
     {
-        QList<QQuickItem *> items{panel};
-        for (qsizetype i = 0; i < items.size(); ++i) {
-            QQuickItem *item = items[i];
-            items += item->childItems();
-            if (item->metaObject()->indexOfProperty("displayText") < 0 || !item->isVisible()
-                || item->property(property).toString() != value)
-                continue;
-            const QPoint centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
-            // A finger on the key: the keyboard reads touches.
-            QTest::touchEvent(harness.window.get(), m_touchScreen).press(0, centre, harness.window.get());
-            QTest::touchEvent(harness.window.get(), m_touchScreen).release(0, centre, harness.window.get());
-            return true;
+        for (QQuickItem *item : WallHarness::itemsBelow(panel)) {
+            if (item->metaObject()->indexOfProperty("displayText") >= 0 && item->isVisible()
+                && item->property(property).toString() == value)
+                return item;
         }
-        return false;
+        return nullptr;
+    }
+
+    // A finger on the key that types text: the keyboard reads touches.
+    bool pressKey(SupportHarness &harness, QQuickItem *panel, const QString &text)
+    {
+        QQuickItem *item = key(panel, "text", text);
+        if (!item)
+            return false;
+        const QPoint centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+        QTest::touchEvent(harness.window.get(), m_touchScreen).press(0, centre, harness.window.get());
+        QTest::touchEvent(harness.window.get(), m_touchScreen).release(0, centre, harness.window.get());
+        return true;
     }
 
     // The key that turns to the symbols page and back. Synthesised touches reach the
     // letter keys but not this one, so it is clicked the way its own handler is.
     static bool switchPage(QQuickItem *panel)
     {
-        QList<QQuickItem *> items{panel};
-        for (qsizetype i = 0; i < items.size(); ++i) {
-            QQuickItem *item = items[i];
-            items += item->childItems();
-            const QString shown = item->property("displayText").toString();
-            if (item->isVisible() && (shown == QLatin1String("&123") || shown == QLatin1String("ABC")))
-                return QMetaObject::invokeMethod(item, "clicked");
-        }
-        return false;
+        QQuickItem *item = key(panel, "displayText", QStringLiteral("&123"));
+        if (!item)
+            item = key(panel, "displayText", QStringLiteral("ABC"));
+        return item && QMetaObject::invokeMethod(item, "clicked");
     }
 
     // Types text key by key; a character the letters do not have ("@") is on the
@@ -87,8 +86,8 @@ private:
     {
         for (const QChar c : text) {
             const qsizetype before = field->property("displayText").toString().size();
-            if (!pressKey(harness, panel, "text", QString(c))) {
-                if (!switchPage(panel) || !QTest::qWaitFor([&] { return pressKey(harness, panel, "text", QString(c)); }, kPatienceMs))
+            if (!pressKey(harness, panel, QString(c))) {
+                if (!switchPage(panel) || !QTest::qWaitFor([&] { return pressKey(harness, panel, QString(c)); }, kPatienceMs))
                     return false;
             }
             // Typed text may wait as a word in progress: what the field shows counts.

@@ -38,13 +38,9 @@ QStringList clippedTexts(QQuickWindow *window)
     const QStringList mayElide{QStringLiteral("nameLabel"), QStringLiteral("descriptionLabel"),
                                QStringLiteral("offernameLabel")};
     QStringList clipped;
-    QList<QQuickItem *> items{window->contentItem()};
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        QQuickItem *item = items[i];
-        if (!item->isVisible() || item->opacity() == 0)
-            continue;
-        items += item->childItems();
-        if (!item->inherits("QQuickText") || textOf(item).isEmpty() || mayElide.contains(item->objectName()))
+    for (QQuickItem *item : WallHarness::itemsBelow(window->contentItem())) {
+        if (!item->isVisible() || item->opacity() == 0 || !item->inherits("QQuickText")
+            || textOf(item).isEmpty() || mayElide.contains(item->objectName()))
             continue;
         const QRectF inWindow = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
         const bool cut = item->property("truncated").toBool()

@@ -68,6 +68,16 @@ public:
 
     QQuickItem *list() const { return find(QStringLiteral("collectionView")); }
 
+    // Every item below root in the visual tree (list cells and popup contents are not
+    // QObject children), root first.
+    static QList<QQuickItem *> itemsBelow(QQuickItem *root)
+    {
+        QList<QQuickItem *> items{root};
+        for (qsizetype i = 0; i < items.size(); ++i)
+            items += items[i]->childItems();
+        return items;
+    }
+
     // Offer cells currently laid out in the list (rows hold one or two), in offer order.
     QList<QVOfferUICollectionViewCell *> cells() const
     {

@@ -6,9 +6,12 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QString>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <fstream>
 #include <regex>
+#include <sstream>
 
 namespace quorva::sandbox {
 
@@ -92,25 +95,68 @@ HttpResponse SandboxService::handle(const HttpRequest &request)
     return response;
 }
 
+FaultOptions FaultOptions::parse(const std::string &text)
+{
+    FaultOptions faults;
+    std::istringstream lines(text);
+    std::string line;
+    while (std::getline(lines, line)) {
+        const auto equals = line.find('=');
+        if (equals == std::string::npos)
+            continue;
+        const std::string key = line.substr(0, equals);
+        const std::string value = line.substr(equals + 1);
+        const std::int64_t number = integer(value).value_or(0);
+        if (key == "latency")
+            faults.latency = std::chrono::milliseconds(std::clamp<std::int64_t>(number, 0, 600000));
+        else if (key == "drop")
+            faults.dropConnections = number != 0;
+        else if (key == "drop-every")
+            faults.dropEvery = int(std::clamp<std::int64_t>(number, 0, 1000));
+        else if (key == "status" && number >= 100 && number <= 599)
+            faults.forcedStatus = int(number);
+        else if (key == "body")
+            faults.body = value == "truncated" ? Body::Truncated : value == "not-json" ? Body::NotJson : Body::Intact;
+        else if (key == "path")
+            faults.pathFilter = value;
+    }
+    return faults;
+}
+
+const FaultOptions &SandboxService::currentFaults()
+{
+    if (m_faultFile.empty())
+        return m_faults;
+    std::ifstream file(m_faultFile);
+    const std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+    if (text != m_faultFileText) {
+        m_faultFileText = text;
+        m_fileFaults = FaultOptions::parse(text);
+        m_matchingRequests = 0;
+    }
+    return text.empty() ? m_faults : m_fileFaults;
+}
+
 void SandboxService::applyFaults(const HttpRequest &request, HttpResponse &response)
 {
-    if (!m_faults.pathFilter.empty() && request.path.find(m_faults.pathFilter) == std::string::npos)
+    const FaultOptions &faults = currentFaults();
+    if (!faults.pathFilter.empty() && request.path.find(faults.pathFilter) == std::string::npos)
         return;
     ++m_matchingRequests;
-    response.delay = m_faults.latency;
-    if (m_faults.dropConnections || (m_faults.dropEvery > 0 && m_matchingRequests % m_faults.dropEvery == 0)) {
+    response.delay = faults.latency;
+    if (faults.dropConnections || (faults.dropEvery > 0 && m_matchingRequests % faults.dropEvery == 0)) {
         response.fault = HttpResponse::Fault::DropConnection;
         return;
     }
-    if (m_faults.forcedStatus) {
-        response.status = *m_faults.forcedStatus;
+    if (faults.forcedStatus) {
+        response.status = *faults.forcedStatus;
         response.contentType = "application/json";
         response.body = response.status == 204 ? std::string() : R"({"error":"forced status"})";
     }
-    if (m_faults.body == FaultOptions::Body::NotJson) {
+    if (faults.body == FaultOptions::Body::NotJson) {
         response.contentType = "text/html";
         response.body = "<html><body>Service temporarily unavailable</body></html>";
-    } else if (m_faults.body == FaultOptions::Body::Truncated) {
+    } else if (faults.body == FaultOptions::Body::Truncated) {
         response.fault = HttpResponse::Fault::TruncateBody;
     }
 }

@@ -22,6 +22,11 @@ struct FaultOptions
     std::optional<int> forcedStatus;
     enum class Body { Intact, Truncated, NotJson } body = Body::Intact;
     std::string pathFilter;
+
+    // The same faults as text, one "key=value" a line: latency (ms), drop (0 or 1),
+    // drop-every, status, body (intact, truncated or not-json) and path. Unknown keys
+    // and values are ignored.
+    static FaultOptions parse(const std::string &text);
 };
 
 // The REST endpoints of the offer service, backed by the store.
@@ -31,6 +36,11 @@ public:
     SandboxService(SandboxStore &store, FaultOptions faults, std::function<void(const std::string &)> log);
 
     http::HttpResponse handle(const http::HttpRequest &request);
+
+    // Faults may be changed while the sandbox runs by writing this file, which only a
+    // caller on this machine can do; while it is missing or empty, the starting faults
+    // apply.
+    void setFaultFile(std::string path) { m_faultFile = std::move(path); }
 
 private:
     http::HttpResponse route(const http::HttpRequest &request);
@@ -46,10 +56,14 @@ private:
     http::HttpResponse picture(std::int64_t offerId);
     http::HttpResponse clickPage(std::int64_t offerId);
     void applyFaults(const http::HttpRequest &request, http::HttpResponse &response);
+    const FaultOptions &currentFaults();
 
     SandboxStore &m_store;
     PictureFactory m_pictures;
     FaultOptions m_faults;
+    std::string m_faultFile;
+    std::string m_faultFileText;
+    FaultOptions m_fileFaults;
     std::function<void(const std::string &)> m_log;
     int m_matchingRequests = 0;
 };

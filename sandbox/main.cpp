@@ -51,13 +51,14 @@ int main(int argc, char **argv)
     const QCommandLineOption dropEvery(QStringLiteral("drop-every"), QStringLiteral("Close the connection of every Nth request."), QStringLiteral("n"), QStringLiteral("0"));
     const QCommandLineOption status(QStringLiteral("force-status"), QStringLiteral("Answer every request with this HTTP status."), QStringLiteral("code"));
     const QCommandLineOption body(QStringLiteral("broken-body"), QStringLiteral("Break reply bodies: truncated or not-json."), QStringLiteral("kind"));
+    const QCommandLineOption faultFile(QStringLiteral("fault-file"), QStringLiteral("Read faults from this file on every request, so they can change while running (key=value lines: latency, drop, drop-every, status, body, path)."), QStringLiteral("file"));
     const QCommandLineOption faultPath(QStringLiteral("fault-path"), QStringLiteral("Apply faults only to paths containing this text."), QStringLiteral("text"));
     const QCommandLineOption quiet(QStringLiteral("quiet"), QStringLiteral("Do not log requests."));
     const QCommandLineOption requestLog(QStringLiteral("request-log"), QStringLiteral("Also append each request's line to this file."), QStringLiteral("file"));
     const QCommandLineOption handshakeTimeout(QStringLiteral("handshake-timeout"), QStringLiteral("Close a connection whose TLS handshake takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("10000"));
     const QCommandLineOption headerTimeout(QStringLiteral("header-timeout"), QStringLiteral("Close a connection whose next request head takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("15000"));
     const QCommandLineOption bodyTimeout(QStringLiteral("body-timeout"), QStringLiteral("Close a connection whose request body takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("30000"));
-    parser.addOptions({address, port, dataDir, caOut, latency, drop, dropEvery, status, body, faultPath, quiet,
+    parser.addOptions({address, port, dataDir, caOut, latency, drop, dropEvery, status, body, faultPath, faultFile, quiet,
                        handshakeTimeout, headerTimeout, bodyTimeout, requestLog});
     parser.process(app);
 
@@ -94,6 +95,8 @@ int main(int argc, char **argv)
             if (logRequests)
                 std::cout << line << std::endl;
         });
+        if (parser.isSet(faultFile))
+            service.setFaultFile(parser.value(faultFile).toStdString());
         http::ServerLimits limits;
         limits.handshake = std::chrono::milliseconds(parser.value(handshakeTimeout).toInt());
         limits.header = std::chrono::milliseconds(parser.value(headerTimeout).toInt());

@@ -323,6 +323,7 @@ void tst_QVEmailViewController::errorLooksComeBackOnTheFirstEdit()
     QVERIFY(strip->isVisible());
     QCOMPARE(info->emailIconName(), QStringLiteral("email_field_error"));
     QCOMPARE(info->emailTextColor(), QColor(0xA5, 0x38, 0x38));
+    QCOMPARE(info->emailTextField()->property("color").value<QColor>(), QColor(0xA5, 0x38, 0x38));
     QCOMPARE(info->findChild<QQuickItem *>(QStringLiteral("emailIcon"))->property("source").toString()
                  .endsWith(QStringLiteral("email_field_error")), true);
 
@@ -334,6 +335,7 @@ void tst_QVEmailViewController::errorLooksComeBackOnTheFirstEdit()
     QVERIFY(!strip->isVisible());
     QCOMPARE(info->emailIconName(), QStringLiteral("email_field_icon"));
     QCOMPARE(info->emailTextColor(), QColor(Qt::black));
+    QCOMPARE(info->emailTextField()->property("color").value<QColor>(), QColor(Qt::black));
     harness.type(info->emailTextField(), QStringLiteral("y"));
     QCOMPARE(hidden.count(), 1); // restored once, not on every keystroke
 

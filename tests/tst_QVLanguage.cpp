@@ -31,32 +31,49 @@ public:
     }
 };
 
-// Texts the user can see that are cut (elided, or wider than their box, or outside the
-// window), but for offer names and descriptions, which may end in an ellipsis.
-QStringList clippedTexts(QQuickWindow *window)
+// Texts the user can see that are cut (elided, wider than their box, outside the window,
+// or below the edge of a box that clips them), but for offer names and descriptions,
+// which may end in an ellipsis. On a mirrored screen, also every text that starts at
+// the left edge of a wider box: whatever its script, it starts at the reading start.
+QStringList badTexts(QQuickWindow *window, bool mirrored)
 {
     const QStringList mayElide{QStringLiteral("nameLabel"), QStringLiteral("descriptionLabel"),
                                QStringLiteral("offernameLabel")};
-    QStringList clipped;
+    QStringList bad;
     for (QQuickItem *item : WallHarness::itemsBelow(window->contentItem())) {
-        if (!item->isVisible() || item->opacity() == 0 || !item->inherits("QQuickText")
-            || textOf(item).isEmpty() || mayElide.contains(item->objectName()))
+        const bool isText = item->inherits("QQuickText") || item->inherits("QQuickTextInput")
+            || item->inherits("QQuickTextEdit");
+        if (!isText || !item->isVisible() || item->opacity() == 0 || textOf(item).isEmpty())
             continue;
         const QRectF inWindow = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
-        const bool cut = item->property("truncated").toBool()
-            || item->property("contentWidth").toReal() > item->width() + 1
+        const qreal contentWidth = item->property("contentWidth").toReal();
+        bool cut = item->property("truncated").toBool() || contentWidth > item->width() + 1
             || inWindow.left() < -1 || inWindow.right() > window->width() + 1;
-        if (cut)
-            clipped.append(textOf(item));
+        // What a list or a scroll view holds can be scrolled into its view, which itself
+        // must be in sight.
+        QRectF shown = inWindow;
+        for (QQuickItem *box = item->parentItem(); box && !cut; box = box->parentItem()) {
+            const QRectF boxInWindow = box->mapRectToScene(box->boundingRect());
+            if (box->inherits("QQuickFlickable"))
+                shown = boxInWindow;
+            else if (box->clip())
+                cut = !boxInWindow.adjusted(-1, -1, 1, 1).contains(shown);
+        }
+        if (cut && !mayElide.contains(item->objectName()))
+            bad.append(QStringLiteral("cut: ") + textOf(item));
+        if (mirrored && contentWidth < item->width() - 1
+            && item->property("effectiveHorizontalAlignment").toInt() == Qt::AlignLeft)
+            bad.append(QStringLiteral("starts left: ") + textOf(item));
     }
-    return clipped;
+    return bad;
 }
 } // namespace
 
-#define VERIFY_NOTHING_CLIPPED(window)                                                                     \
+#define VERIFY_TEXTS_READ_WELL(harness)                                                                    \
     do {                                                                                                   \
-        const QStringList clipped = clippedTexts(window);                                                  \
-        QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(QStringLiteral(" | "))));                      \
+        QVERIFY((harness).nextFrame());                                                                    \
+        const QStringList bad = badTexts((harness).window.get(), (harness).wall->isRightToLeft());         \
+        QVERIFY2(bad.isEmpty(), qPrintable(bad.join(QStringLiteral(" | "))));                              \
     } while (false)
 
 class tst_QVLanguage : public QObject
@@ -231,48 +248,91 @@ void tst_QVLanguage::pseudoLanguageClipsNothing()
     else
         QLocale::setDefault(QLocale(language));
     const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&pseudo); });
+    const QSize size = tablet ? QSize(1024, 768) : QSize(390, 780);
+    const auto closeAlert = [](QQuickItem *owner) {
+        const auto alerts = owner->findChildren<QObject *>(QStringLiteral("alert"));
+        QVERIFY(!alerts.isEmpty());
+        QTRY_VERIFY(alerts.last()->property("opened").toBool());
+        QMetaObject::invokeMethod(alerts.last(), "close");
+        QTRY_VERIFY(owner->findChildren<QObject *>(QStringLiteral("alert")).size() < alerts.size());
+    };
 
-    // The wall with its failure state and the filter panel.
+    // The wall: failed with its alert, empty, with offers and a credit notice, and the
+    // filter panel.
+    m_service.setHistory(200, R"({"transactions":[]})");
+    QVCreditsWatcher watcher(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
+    watcher.checkNow();
     m_service.setOffersDropped(true);
     QTest::ignoreMessage(QtInfoMsg, "offers request failed");
-    SupportHarness harness(tablet ? QSize(1024, 768) : QSize(390, 780));
+    SupportHarness harness(size);
+    harness.wall->setCreditsWatcher(&watcher);
     QVERIFY(harness.show());
     QTRY_VERIFY(harness.wall->loadFailed());
     QTRY_VERIFY(harness.alert() && harness.alert()->property("opened").toBool());
-    QVERIFY(harness.nextFrame());
-    VERIFY_NOTHING_CLIPPED(harness.window.get());
-    QMetaObject::invokeMethod(harness.alert(), "close");
-    QTRY_VERIFY(!harness.alert());
+    VERIFY_TEXTS_READ_WELL(harness);
+    closeAlert(harness.wall);
     m_service.setOffersDropped(false);
+    m_service.setTotalOffers(0);
+    harness.wall->onRetryPressed();
+    QTRY_VERIFY(harness.find(QStringLiteral("noOffersLabel"))->isVisible());
+    VERIFY_TEXTS_READ_WELL(harness);
+    m_service.setTotalOffers(95);
     harness.wall->onRetryPressed();
     QTRY_VERIFY(harness.wall->offerCount() > 0);
+    QTRY_VERIFY(watcher.hasBaseline());
+    m_service.setHistory(200, R"({"transactions":[{"offer_name":"Sky Quest","currency_adjustment":1500}]})");
+    watcher.checkNow();
+    QTRY_VERIFY(harness.wall->creditNoticeShown());
+    VERIFY_TEXTS_READ_WELL(harness);
     harness.wall->onFilterPressed();
     QTRY_VERIFY(harness.wall->filterVC() && !harness.wall->isOverlayAnimating());
-    QVERIFY(harness.nextFrame());
-    VERIFY_NOTHING_CLIPPED(harness.window.get());
+    VERIFY_TEXTS_READ_WELL(harness);
 
-    // Every tab of the support centre, and the form in each state with its error strip.
-    SupportHarness supportHarness(tablet ? QSize(1024, 768) : QSize(390, 780));
+    // Every tab of the support centre, and the form in each of its states.
+    SupportHarness supportHarness(size);
     QVERIFY(supportHarness.show());
     QVSupportViewController *support = supportHarness.openSupport();
     QVERIFY(support);
-    QVERIFY(supportHarness.nextFrame());
-    VERIFY_NOTHING_CLIPPED(supportHarness.window.get());
+    VERIFY_TEXTS_READ_WELL(supportHarness);
     SupportHarness::showTab(support, QVSupportViewController::HistoryTab);
-    QVERIFY(supportHarness.nextFrame());
-    VERIFY_NOTHING_CLIPPED(supportHarness.window.get());
+    const auto historyRowShown = [support] {
+        const QList<QQuickItem *> items = WallHarness::itemsBelow(support);
+        return std::any_of(items.cbegin(), items.cend(),
+                           [](QQuickItem *i) { return i->objectName() == QLatin1String("offernameLabel"); });
+    };
+    QTRY_VERIFY(historyRowShown());
+    VERIFY_TEXTS_READ_WELL(supportHarness);
     SupportHarness::showTab(support, QVSupportViewController::FormTab);
     QVEmailViewController *form = support->emailViewController();
-    QVERIFY(supportHarness.nextFrame());
-    for (QQuickItem *choice : {form->chooseSubjectView()->notCreditBtn(), form->chooseSubjectView()->reportBtn()}) {
+    VERIFY_TEXTS_READ_WELL(supportHarness);
+    QVChooseSubjectView *subject = form->chooseSubjectView();
+    QVOfferTimeCompletedView *time = form->offerTimeCompleted();
+    for (QQuickItem *choice : {subject->notCreditBtn(), time->noButton(), time->yesButton(), subject->reportBtn()}) {
         supportHarness.clickInForm(form, choice);
-        QVERIFY(supportHarness.nextFrame());
-        VERIFY_NOTHING_CLIPPED(supportHarness.window.get());
+        VERIFY_TEXTS_READ_WELL(supportHarness);
     }
+    // Invalid, with the error strip; the date picker; sent, and its failure alert.
+    supportHarness.clickInForm(form, subject->notCreditBtn());
+    supportHarness.clickInForm(form, time->yesButton());
     supportHarness.clickInForm(form, form->sendButtonView()->sendBtn());
     QTRY_VERIFY(support->errorLabel()->isVisible());
-    QVERIFY(supportHarness.nextFrame());
-    VERIFY_NOTHING_CLIPPED(supportHarness.window.get());
+    VERIFY_TEXTS_READ_WELL(supportHarness);
+    form->dateInputFieldPressed();
+    QTRY_COMPARE(form->datePickerView()->opacity(), 1.0);
+    VERIFY_TEXTS_READ_WELL(supportHarness);
+    form->onDateDonePressed();
+    QTRY_VERIFY(!form->datePickerView()->isVisible());
+    supportHarness.clickInForm(form, subject->otherBtn());
+    QCOMPARE(form->activeUISate(), 5);
+    form->enterInfoView()->nameTextField()->setProperty("text", QStringLiteral("Ann"));
+    form->enterInfoView()->emailTextField()->setProperty("text", QStringLiteral("ann@example.com"));
+    form->enterCommentView()->commentInputField()->setProperty("text", QStringLiteral("Hello"));
+    supportHarness.clickInForm(form, form->sendButtonView()->sendBtn());
+    QTRY_VERIFY(form->findChild<QObject *>(QStringLiteral("alert")));
+    VERIFY_TEXTS_READ_WELL(supportHarness);
+    closeAlert(form);
+    form->showFailureAlert();
+    VERIFY_TEXTS_READ_WELL(supportHarness);
 }
 
 QTEST_MAIN(tst_QVLanguage)

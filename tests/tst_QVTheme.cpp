@@ -89,6 +89,8 @@ void tst_QVTheme::lightIsTheWallsOwnLook()
     const QVTheme light = QVTheme::light();
     QCOMPARE(light.background, QVColor::colorFromHex(QStringLiteral("#F2F2F2")));
     QCOMPARE(light.error, QVColor::colorFromHex(QStringLiteral("#A53838")));
+    QCOMPARE(light.textPrimary, QColor(Qt::black));
+    QCOMPARE(light.card, QColor(Qt::white));
     const QColor green(0x22, 0xA3, 0x5A);
     QCOMPARE(light.payoutButton.toHsl().hslHue(), green.toHsl().hslHue());
     QVERIFY(QVTheme::contrastRatio(light.payoutText, light.payoutButton) < 4.7);

@@ -14,3 +14,8 @@ quorva_add_test(tst_QVSupportViewController)
 quorva_add_test(tst_QVFAQViewController)
 quorva_add_test(tst_QVHistoryViewController)
 quorva_add_test(tst_QVEmailViewController)
+
+# The suites that put a wall in a window; scripts/stress runs these.
+set_tests_properties(tst_QVImageView tst_QVLanguage tst_QVKeyboard tst_QVOffersViewController
+    tst_QVOfferWallPreload tst_QVFiltersViewController tst_QVSupportViewController tst_QVFAQViewController
+    tst_QVHistoryViewController tst_QVEmailViewController PROPERTIES LABELS ui)

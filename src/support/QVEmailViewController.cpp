@@ -57,6 +57,12 @@ void QVEmailViewController::viewDidLoad()
     m_enterOfferTitleView = loadPiece<QVEnterOfferTitleView>("enterOfferTitleView");
     m_enterCommentView = loadPiece<QVEnterCommentView>("enterCommentView");
     m_unableToAssistView = loadPiece<QVUnableToAssist>("unableToAssistView");
+    // Its texts are laid out after a width change, and a long language wraps them further.
+    if (m_unableToAssistView)
+        connect(m_unableToAssistView, &QQuickItem::implicitHeightChanged, this, [this] {
+            fitUnableToAssist();
+            updateContentSize();
+        });
     m_sendButtonView = loadPiece<QVSupportSendButtonView>("sendButtonView");
     const QList<QQuickItem *> pieces{m_enterInfoView, m_chooseSubjectView, m_offerTimeCompleted,
                                      m_offerDateCompletedView, m_enterOfferTitleView, m_enterCommentView,
@@ -178,6 +184,7 @@ void QVEmailViewController::setUIState(int state)
         addPiece(m_unableToAssistView);
         // The notice takes the send button's place and height.
         place(m_unableToAssistView, m_offerTimeCompleted, m_sendButtonView->height());
+        fitUnableToAssist();
         m_sendButtonView->setVisible(false);
         break;
     case Report:
@@ -196,6 +203,13 @@ void QVEmailViewController::setUIState(int state)
     }
     stackInReadingOrder();
     updateContentSize();
+}
+
+// The notice takes the send button's place and at least its height.
+void QVEmailViewController::fitUnableToAssist()
+{
+    if (m_unableToAssistView && m_unableToAssistView->parentItem() == m_contentView)
+        m_unableToAssistView->setHeight(std::max(m_sendButtonView->height(), m_unableToAssistView->implicitHeight()));
 }
 
 void QVEmailViewController::stackInReadingOrder()

@@ -122,6 +122,7 @@ private:
     Q_DECL_HIDDEN void removePiece(QQuickItem *piece);
     Q_DECL_HIDDEN void place(QQuickItem *piece, QQuickItem *anchor, qreal height = -1);
     Q_DECL_HIDDEN void stackInReadingOrder();
+    Q_DECL_HIDDEN void fitUnableToAssist();
     Q_DECL_HIDDEN void setKeyboardInset(qreal inset);
     Q_DECL_HIDDEN void hideDatePanelAtOnce();
     Q_DECL_HIDDEN void fadeDatePanel(qreal opacity);

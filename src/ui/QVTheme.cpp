@@ -114,7 +114,7 @@ QVTheme QVTheme::light()
     t.headerText = QVColor::colorFromHex(QStringLiteral("#FFFFFF"));
     t.background = QVColor::colorFromHex(QStringLiteral("#F2F2F2"));
     t.card = QVColor::colorFromHex(QStringLiteral("#FFFFFF"));
-    t.textPrimary = QVColor::colorFromHex(QStringLiteral("#15151E"));
+    t.textPrimary = QColor(Qt::black);
     t.textSecondary = QVColor::colorFromHex(QStringLiteral("#5F5F6E"));
     t.accent = QVColor::colorFromHex(QStringLiteral("#3F51D8"));
     t.payoutButton = QVColor::colorFromHex(QStringLiteral("#22A35A"));

@@ -391,10 +391,12 @@ void QVOffersViewController::watchForFirstOffersOnScreen()
     m_offersShownPending = true;
     m_framesSinceFirstOffers = 0;
     // The first swap may end a frame that was under way before the offers arrived; the
-    // second one shows them.
+    // second one shows them. Swaps come from the render thread as queued calls, so
+    // several may already wait when the first runs, and the disconnect below does not
+    // take them back: the flag, not the connection, makes the signal come once.
     auto connection = std::make_shared<QMetaObject::Connection>();
     *connection = connect(host, &QQuickWindow::frameSwapped, this, [this, connection] {
-        if (++m_framesSinceFirstOffers < 2)
+        if (m_offersShown || ++m_framesSinceFirstOffers < 2)
             return;
         disconnect(*connection);
         m_offersShownPending = false;

@@ -43,6 +43,7 @@ AbstractButton {
     }
     contentItem: Item {
         Text {
+            horizontalAlignment: Text.AlignLeft
             anchors.left: parent.left
             anchors.right: check.left
             anchors.top: parent.top

@@ -22,6 +22,7 @@ QVChooseSubjectViewBase {
 
         Text {
             id: title
+            horizontalAlignment: Text.AlignLeft
             anchors.left: parent.left
             anchors.right: parent.right
             anchors.leftMargin: 16

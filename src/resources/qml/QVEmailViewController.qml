@@ -41,13 +41,17 @@ QVEmailViewControllerBase {
             color: theme.separator
         }
         Text {
+            horizontalAlignment: Text.AlignLeft
             anchors.left: parent.left
+            anchors.right: done.left
             anchors.leftMargin: 16
+            anchors.rightMargin: 8
             anchors.verticalCenter: done.verticalCenter
             text: qsTr("When did you complete it?")
             font.pixelSize: 15
             font.bold: true
             color: theme.textPrimary
+            wrapMode: Text.Wrap
         }
         Button {
             id: done

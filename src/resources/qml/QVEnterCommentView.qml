@@ -33,6 +33,7 @@ QVEnterCommentViewBase {
         TextArea {
             id: area
             objectName: "commentInputField"
+            horizontalAlignment: TextEdit.AlignLeft
             anchors.left: icon.right
             anchors.right: parent.right
             anchors.top: parent.top

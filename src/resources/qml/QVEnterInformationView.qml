@@ -36,6 +36,7 @@ QVEnterInformationViewBase {
         FormTextField {
             id: name
             objectName: "nameTextField"
+            horizontalAlignment: TextInput.AlignLeft
             anchors.left: nameIconImage.right
             anchors.right: parent.right
             anchors.leftMargin: 12
@@ -69,6 +70,7 @@ QVEnterInformationViewBase {
         FormTextField {
             id: email
             objectName: "emailTextField"
+            horizontalAlignment: TextInput.AlignLeft
             anchors.left: emailIconImage.right
             anchors.right: parent.right
             anchors.leftMargin: 12

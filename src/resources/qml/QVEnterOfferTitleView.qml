@@ -32,6 +32,7 @@ QVEnterOfferTitleViewBase {
         FormTextField {
             id: field
             objectName: "offerNameField"
+            horizontalAlignment: TextInput.AlignLeft
             anchors.left: icon.right
             anchors.right: parent.right
             anchors.leftMargin: 12

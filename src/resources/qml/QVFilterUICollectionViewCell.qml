@@ -31,6 +31,7 @@ QVFilterUICollectionViewCellBase {
     Label {
         id: label
         objectName: "name"
+        horizontalAlignment: Text.AlignLeft
         anchors.left: parent.left
         anchors.right: check.left
         anchors.verticalCenter: parent.verticalCenter

@@ -13,6 +13,7 @@ QVFilterUICollectionViewHeaderBase {
     Label {
         id: label
         objectName: "name"
+        horizontalAlignment: Text.AlignLeft
         anchors.left: parent.left
         anchors.bottom: parent.bottom
         anchors.leftMargin: 20

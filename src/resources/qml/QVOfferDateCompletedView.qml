@@ -30,6 +30,7 @@ QVOfferDateCompletedViewBase {
             sourceSize: Qt.size(48, 48)
         }
         Text {
+            horizontalAlignment: Text.AlignLeft
             anchors.left: icon.right
             anchors.leftMargin: 12
             anchors.verticalCenter: parent.verticalCenter

@@ -20,6 +20,7 @@ QVOfferTimeCompletedViewBase {
 
         Text {
             id: question
+            horizontalAlignment: Text.AlignLeft
             anchors.left: parent.left
             anchors.leftMargin: 16
             y: 14

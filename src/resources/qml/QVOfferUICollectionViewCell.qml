@@ -59,6 +59,7 @@ QVOfferUICollectionViewCellBase {
             Text {
                 id: name
                 objectName: "nameLabel"
+                horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: cell.offerName
                 font.pixelSize: 17
@@ -69,6 +70,7 @@ QVOfferUICollectionViewCellBase {
             Text {
                 id: details
                 objectName: "descriptionLabel"
+                horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: cell.offerDescription
                 font.pixelSize: 14

@@ -38,6 +38,7 @@ QVQACollectionViewCellBase {
             Text {
                 id: questionText
                 objectName: "questionLabel"
+                horizontalAlignment: Text.AlignLeft
                 anchors.left: parent.left
                 anchors.leftMargin: cell.padding
                 y: cell.padding
@@ -62,6 +63,7 @@ QVQACollectionViewCellBase {
             Text {
                 id: answerText
                 objectName: "answerLabel"
+                horizontalAlignment: Text.AlignLeft
                 anchors.left: parent.left
                 anchors.leftMargin: cell.padding
                 y: questionText.y + questionText.height + cell.spacing

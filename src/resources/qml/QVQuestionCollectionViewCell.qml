@@ -35,6 +35,7 @@ QVQuestionCollectionViewCellBase {
             Text {
                 id: label
                 objectName: "questionLabel"
+                horizontalAlignment: Text.AlignLeft
                 anchors.left: parent.left
                 anchors.right: chevron.left
                 anchors.top: parent.top

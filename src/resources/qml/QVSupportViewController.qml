@@ -69,6 +69,7 @@ QVSupportViewControllerBase {
     Label {
         id: error
         objectName: "errorLabel"
+        horizontalAlignment: Text.AlignLeft
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.leftMargin: 12

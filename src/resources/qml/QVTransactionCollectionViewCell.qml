@@ -74,6 +74,7 @@ QVTransactionCollectionViewCellBase {
             Text {
                 id: name
                 objectName: "offernameLabel"
+                horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: cell.offerName
                 font.pixelSize: 17
@@ -84,6 +85,7 @@ QVTransactionCollectionViewCellBase {
             Text {
                 id: date
                 objectName: "dateLabel"
+                horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: cell.timestamp
                 font.pixelSize: 13

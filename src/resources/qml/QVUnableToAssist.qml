@@ -5,6 +5,8 @@ import QuorvaMedia
 // Shown in the send button's place, at its height.
 QVUnableToAssistBase {
     height: 120
+    // Taller than the send button when its text wraps further (a long language).
+    implicitHeight: texts.implicitHeight + 34
     clip: true
 
     Rectangle {
@@ -28,6 +30,7 @@ QVUnableToAssistBase {
             sourceSize: Qt.size(48, 48)
         }
         Column {
+            id: texts
             anchors.left: icon.right
             anchors.right: parent.right
             anchors.leftMargin: 12
@@ -35,21 +38,21 @@ QVUnableToAssistBase {
             anchors.verticalCenter: parent.verticalCenter
             spacing: 2
             Text {
+                horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: qsTr("Rewards can take up to 24 hours")
                 font.pixelSize: 15
                 font.bold: true
                 color: theme.textPrimary
-                elide: Text.ElideRight
+                wrapMode: Text.Wrap
             }
             Text {
+                horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: qsTr("Please check back tomorrow; we can't look into it sooner.")
                 font.pixelSize: 13
                 color: theme.textSecondary
                 wrapMode: Text.Wrap
-                maximumLineCount: 2
-                elide: Text.ElideRight
             }
         }
     }

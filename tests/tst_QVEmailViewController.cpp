@@ -57,8 +57,6 @@ private slots:
     void failureKeepsEveryField();
     void ticketLandsOnceInTheSandboxStore();
     void datePanel();
-    void keyboardInsetsAndScrolling_data();
-    void keyboardInsetsAndScrolling();
     void draggingUpDismissesTheKeyboard();
     void keyboardAloneFilesATicket();
 
@@ -548,35 +546,7 @@ void tst_QVEmailViewController::datePanel()
     QCOMPARE(panel->opacity(), 0.0);
 }
 
-void tst_QVEmailViewController::keyboardInsetsAndScrolling_data()
-{
-    QTest::addColumn<bool>("tablet");
-    QTest::newRow("phone") << false;
-    QTest::newRow("tablet") << true;
-}
 
-void tst_QVEmailViewController::keyboardInsetsAndScrolling()
-{
-    QFETCH(bool, tablet);
-    QVDevice::setUserInterfaceIdiom(tablet ? QVDevice::Idiom::Tablet : QVDevice::Idiom::Phone);
-    SupportHarness harness(tablet ? QSize(1024, 768) : QSize(390, 780));
-    QVERIFY(harness.show());
-    QVEmailViewController *form = formInState(harness, 2);
-    QVERIFY(form);
-    QQuickItem *scroll = form->scrollView();
-    scroll->setProperty("contentY", 0);
-    form->enterCommentView()->commentInputField()->forceActiveFocus();
-    const QRectF keyboard(0, harness.window->height() - 300, harness.window->width(), 300);
-    form->keyboardDidShow(keyboard);
-    // Phones make room for the keyboard; tablets do not.
-    QCOMPARE(form->keyboardInset(), tablet ? 0.0 : 300.0);
-    // Either way the send button is scrolled into view above the keyboard.
-    QQuickItem *send = form->sendButtonView();
-    QTRY_VERIFY(send->y() + send->height()
-                <= scroll->property("contentY").toReal() + scroll->height() - form->keyboardInset() + 0.5);
-    form->keyboardWillBeHidden();
-    QCOMPARE(form->keyboardInset(), 0.0);
-}
 
 void tst_QVEmailViewController::draggingUpDismissesTheKeyboard()
 {

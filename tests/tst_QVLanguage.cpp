@@ -4,6 +4,7 @@
 #include "SupportHarness.h"
 
 #include <QtCore/QTranslator>
+#include <QtGui/QAccessible>
 #include <QtQuick/QQuickItem>
 
 namespace {
@@ -31,16 +32,30 @@ public:
     }
 };
 
-// Texts the user can see that are cut (elided, wider than their box, outside the window,
-// or below the edge of a box that clips them), but for offer names and descriptions,
-// which may end in an ellipsis. On a mirrored screen, also every text that starts at
-// the left edge of a wider box: whatever its script, it starts at the reading start.
+// A control a screen reader can name and place: by itself, or by the box around it.
+bool spokenFor(QQuickItem *item)
+{
+    QAccessibleInterface *accessible = item ? QAccessible::queryAccessibleInterface(item) : nullptr;
+    return accessible && !accessible->text(QAccessible::Name).trimmed().isEmpty()
+        && accessible->role() != QAccessible::NoRole && accessible->role() != QAccessible::Client;
+}
+
+// What a user cannot read on the screen: texts that are cut (elided, wider than their
+// box, outside the window, or below the edge of a box that clips them), but for offer
+// names and descriptions, which may end in an ellipsis; on a mirrored screen, texts that
+// start at the left edge of a wider box (whatever its script, a text starts at the
+// reading start); and controls a screen reader cannot name.
 QStringList badTexts(QQuickWindow *window, bool mirrored)
 {
     const QStringList mayElide{QStringLiteral("nameLabel"), QStringLiteral("descriptionLabel"),
                                QStringLiteral("offernameLabel")};
     QStringList bad;
     for (QQuickItem *item : WallHarness::itemsBelow(window->contentItem())) {
+        const bool control = item->inherits("QQuickAbstractButton") || item->inherits("QQuickTextInput")
+            || item->inherits("QQuickTextEdit") || item->activeFocusOnTab();
+        if (control && item->isVisible() && item->opacity() > 0 && !spokenFor(item) && !spokenFor(item->parentItem()))
+            bad.append(QStringLiteral("no accessible name or role: %1 %2")
+                           .arg(QLatin1String(item->metaObject()->className()), item->objectName()));
         const bool isText = item->inherits("QQuickText") || item->inherits("QQuickTextInput")
             || item->inherits("QQuickTextEdit");
         if (!isText || !item->isVisible() || item->opacity() == 0 || textOf(item).isEmpty())
@@ -88,7 +103,6 @@ private slots:
     void germanOnTheWallThePanelAndTheForm();
     void englishForEnglishOrAnUnknownLanguage_data();
     void englishForEnglishOrAnUnknownLanguage();
-    void logLinesStayEnglish();
     void faqInTheLanguageOrEnglish_data();
     void faqInTheLanguageOrEnglish();
     void arabicMirrorsTheHeaderAndTheCells();
@@ -169,21 +183,6 @@ void tst_QVLanguage::englishForEnglishOrAnUnknownLanguage()
     QVERIFY(!harness.wall->isRightToLeft());
 }
 
-void tst_QVLanguage::logLinesStayEnglish()
-{
-    for (const auto language : {QLocale::German, QLocale::Spanish, QLocale::French, QLocale::Portuguese,
-                                QLocale::Arabic}) {
-        QLocale::setDefault(QLocale(language, language == QLocale::Portuguese ? QLocale::Brazil : QLocale::AnyTerritory));
-        m_service.setOffersDropped(true);
-        QTest::ignoreMessage(QtInfoMsg, "offers request failed");
-        WallHarness harness;
-        QVERIFY(harness.show());
-        QTRY_VERIFY(harness.wall->loadFailed());
-        QVERIFY(quorva::detail::libraryLocale().language() == language);
-        QVERIFY(textOf(harness.find(QStringLiteral("retryButton"))) != QStringLiteral("Try again"));
-        finishPendingRequests();
-    }
-}
 
 void tst_QVLanguage::faqInTheLanguageOrEnglish_data()
 {
@@ -263,6 +262,7 @@ void tst_QVLanguage::pseudoLanguageClipsNothing()
     QVCreditsWatcher watcher(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
     watcher.checkNow();
     m_service.setOffersDropped(true);
+    // Log lines stay English in every language: a translated one would not match.
     QTest::ignoreMessage(QtInfoMsg, "offers request failed");
     SupportHarness harness(size);
     harness.wall->setCreditsWatcher(&watcher);

@@ -35,7 +35,6 @@ private slots:
     void loadsWhenFirstShownWithTargetingApplied();
     void pagesAsTheListScrolls();
     void lastCellShownOftenSendsOneRequest();
-    void endOfListStopsPaging();
     void emptyListShowsLabel();
     void failedPageAlertsAndScrollingRetries();
     void failedFirstPageOffersTryAgain_data();
@@ -102,8 +101,10 @@ void tst_QVOffersViewController::loadsWhenFirstShownWithTargetingApplied()
     QCOMPARE(query.value("subid1"), QStringLiteral("user-1"));
 }
 
+// Pages follow the list to its end, where the service's "no content" stops them.
 void tst_QVOffersViewController::pagesAsTheListScrolls()
 {
+    m_service.setTotalOffers(70);
     WallHarness harness;
     QVERIFY(harness.show());
     QTRY_COMPARE(harness.wall->offersList().size(), 30);
@@ -112,12 +113,21 @@ void tst_QVOffersViewController::pagesAsTheListScrolls()
     harness.scrollToEnd();
     QTRY_COMPARE(harness.wall->offersList().size(), 60);
     harness.scrollToEnd();
-    QTRY_COMPARE(harness.wall->offersList().size(), 90);
+    QTRY_COMPARE(harness.wall->offersList().size(), 70);
+    harness.scrollToEnd();
+    QTRY_VERIFY(!harness.wall->moreOffersAvailable());
     const auto queries = m_service.offersQueries();
-    QCOMPARE(queries.size(), 3);
+    QCOMPARE(queries.size(), 4);
     QCOMPARE(queries[1].value("offset"), QStringLiteral("30"));
-    QCOMPARE(queries[2].value("offset"), QStringLiteral("60"));
-    QCOMPARE(harness.list()->property("count").toInt(), 90);
+    QCOMPARE(queries[3].value("offset"), QStringLiteral("70"));
+    QCOMPARE(harness.list()->property("count").toInt(), 70);
+    harness.scrollToStart();
+    QTRY_COMPARE(harness.cells().first()->row(), 0);
+    harness.scrollToEnd();
+    QTRY_COMPARE(harness.cells().last()->row(), 69);
+    QVERIFY(!harness.wall->loadingOffers()); // showing the last cell asked for nothing
+    QCOMPARE(m_service.requestsTo("/offers.json"), 4);
+    QVERIFY(!harness.find(QStringLiteral("noOffersLabel"))->isVisible());
 }
 
 void tst_QVOffersViewController::lastCellShownOftenSendsOneRequest()
@@ -137,27 +147,6 @@ void tst_QVOffersViewController::lastCellShownOftenSendsOneRequest()
     m_service.setOffersHeld(false);
     QTRY_COMPARE(harness.wall->offersList().size(), 60);
     QCOMPARE(m_service.requestsTo("/offers.json"), 2);
-}
-
-void tst_QVOffersViewController::endOfListStopsPaging()
-{
-    m_service.setTotalOffers(40);
-    WallHarness harness;
-    QVERIFY(harness.show());
-    QTRY_COMPARE(harness.wall->offersList().size(), 30);
-    harness.scrollToEnd();
-    QTRY_COMPARE(harness.wall->offersList().size(), 40);
-    harness.scrollToEnd();
-    QTRY_VERIFY(!harness.wall->moreOffersAvailable()); // the service said no content
-    const int requests = m_service.requestsTo("/offers.json");
-    QCOMPARE(requests, 3);
-    harness.scrollToStart();
-    QTRY_COMPARE(harness.cells().first()->row(), 0);
-    harness.scrollToEnd();
-    QTRY_COMPARE(harness.cells().last()->row(), 39);
-    QVERIFY(!harness.wall->loadingOffers()); // showing the last cell asked for nothing
-    QCOMPARE(m_service.requestsTo("/offers.json"), requests);
-    QVERIFY(!harness.find(QStringLiteral("noOffersLabel"))->isVisible());
 }
 
 void tst_QVOffersViewController::emptyListShowsLabel()

@@ -3,7 +3,6 @@
 #include "QVNotificationCenter.h"
 #include "SupportHarness.h"
 
-#include <QtGui/QAccessible>
 
 class tst_QVSupportViewController : public QObject
 {
@@ -20,8 +19,6 @@ private slots:
     void phonePanelsCloseEachOther();
     void tabletPopoverHasItsOwnCloseButton();
     void profileArrivingWhileOpenIsKeptForLater();
-    void everyControlHasAnAccessibleNameAndRole_data();
-    void everyControlHasAnAccessibleNameAndRole();
 
 private:
     FakeOfferService m_service;
@@ -217,46 +214,6 @@ void tst_QVSupportViewController::profileArrivingWhileOpenIsKeptForLater()
     QCOMPARE(title->property("text").toString(), QStringLiteral("Corvel Support"));
     harness.wall->headerTapped();
     QCOMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
-}
-
-void tst_QVSupportViewController::everyControlHasAnAccessibleNameAndRole_data()
-{
-    QTest::addColumn<int>("tab");
-    QTest::newRow("wall and FAQ") << -1;
-    QTest::newRow("history") << 1;
-    QTest::newRow("form") << 2;
-}
-
-void tst_QVSupportViewController::everyControlHasAnAccessibleNameAndRole()
-{
-    QFETCH(int, tab);
-    SupportHarness harness;
-    QVERIFY(harness.show());
-    QTRY_VERIFY(!harness.cells().isEmpty());
-    QVSupportViewController *support = harness.openSupport();
-    QVERIFY(support);
-    if (tab >= 0)
-        SupportHarness::showTab(support, tab);
-    if (tab == 2)
-        harness.clickInForm(support->emailViewController(), support->emailViewController()->chooseSubjectView()->notCreditBtn());
-    int controls = 0;
-    QList<QQuickItem *> items{harness.wall};
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        QQuickItem *item = items[i];
-        items += item->childItems();
-        // Controls of the style, and plain items the keyboard can reach.
-        const bool control = item->inherits("QQuickAbstractButton") || item->inherits("QQuickTextInput")
-            || item->inherits("QQuickTextEdit") || item->activeFocusOnTab();
-        if (!control || !item->isVisible())
-            continue;
-        ++controls;
-        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(item);
-        QVERIFY(accessible);
-        QVERIFY2(!accessible->text(QAccessible::Name).trimmed().isEmpty(),
-                 qPrintable(QStringLiteral("%1 has no name").arg(item->objectName())));
-        QVERIFY(accessible->role() != QAccessible::NoRole && accessible->role() != QAccessible::Client);
-    }
-    QVERIFY(controls >= 5);
 }
 
 QTEST_MAIN(tst_QVSupportViewController)

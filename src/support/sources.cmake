@@ -59,6 +59,7 @@ list(APPEND QUORVA_QML_FILES
     resources/qml/FormCard.qml
     resources/qml/FormTextField.qml
     resources/qml/ChoiceRow.qml
+    resources/qml/DateWheel.qml
 )
 
 list(APPEND QUORVA_RESOURCE_FILES

@@ -20,6 +20,8 @@
 #include <QtQuick/QQuickWindow>
 #include <QtTest/QTest>
 
+#include <functional>
+
 #include <unistd.h>
 
 namespace {
@@ -95,7 +97,9 @@ public:
             act();
             QTest::qWait(int(m_random.bounded(10, 150)));
             check();
-            if (clock.elapsed() >= nextCalm || clock.elapsed() >= seconds * 1000LL) {
+            if (m_warmResidentMiB == 0 && clock.elapsed() > 20000)
+                m_warmResidentMiB = residentMiB();
+            if (clock.elapsed() >= nextCalm) {
                 calmCheck();
                 nextCalm = clock.elapsed() + 60000;
             }
@@ -150,7 +154,7 @@ private:
     }
 
     // Visible items of a kind, anywhere in the window (popups included).
-    QList<QQuickItem *> visibleItems(bool (*fits)(QQuickItem *))
+    QList<QQuickItem *> visibleItems(const std::function<bool(QQuickItem *)> &fits)
     {
         QList<QQuickItem *> items{m_window.contentItem()}, found;
         for (qsizetype i = 0; i < items.size(); ++i) {
@@ -162,6 +166,11 @@ private:
             items += item->childItems();
         }
         return found;
+    }
+
+    QList<QQuickItem *> visibleNamed(QLatin1StringView name)
+    {
+        return visibleItems([name](QQuickItem *i) { return i->objectName() == name; });
     }
 
     void click(QQuickItem *item)
@@ -205,10 +214,10 @@ private:
         case 7: // the filter panel, a choice and saving it
             m_wall->onFilterPressed();
             QTest::qWait(int(m_random.bounded(400)));
-            if (const auto rows = visibleItems([](QQuickItem *i) { return i->objectName() == QLatin1String("name"); });
+            if (const auto rows = visibleNamed(QLatin1StringView("name"));
                 !rows.isEmpty())
                 click(rows[pick(int(rows.size()))]);
-            if (const auto save = visibleItems([](QQuickItem *i) { return i->objectName() == QLatin1String("saveButton"); });
+            if (const auto save = visibleNamed(QLatin1StringView("saveButton"));
                 !save.isEmpty())
                 click(save.first());
             break;
@@ -234,7 +243,7 @@ private:
             break;
         }
         case 11: { // sending the ticket
-            const auto send = visibleItems([](QQuickItem *i) { return i->objectName() == QLatin1String("sendBtn"); });
+            const auto send = visibleNamed(QLatin1StringView("sendBtn"));
             if (!send.isEmpty())
                 click(send.first());
             break;
@@ -281,7 +290,7 @@ private:
                         field->setProperty("text", text);
                 }
             }
-            const auto send = visibleItems([](QQuickItem *i) { return i->objectName() == QLatin1String("sendBtn"); });
+            const auto send = visibleNamed(QLatin1StringView("sendBtn"));
             if (!send.isEmpty())
                 click(send.first());
             break;
@@ -338,9 +347,7 @@ private:
         const qsizetype posted = log.open(QIODevice::ReadOnly) ? log.readAll().count("POST /corvel/api") : 0;
         if (posted > g_ticketsFiled)
             m_findings.append(QStringLiteral("%1 tickets reached the service, %2 were filed").arg(posted).arg(g_ticketsFiled));
-        if (m_warmResidentMiB == 0)
-            m_warmResidentMiB = residentMiB();
-        else if (residentMiB() > m_warmResidentMiB * 2 + 256)
+        if (m_warmResidentMiB > 0 && residentMiB() > m_warmResidentMiB * 2 + 256)
             m_findings.append(QStringLiteral("resident memory grew from %1 to %2 MiB").arg(m_warmResidentMiB).arg(residentMiB()));
         check();
     }

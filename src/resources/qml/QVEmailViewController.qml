@@ -94,23 +94,21 @@ QVEmailViewControllerBase {
             }
             Row {
                 anchors.fill: parent
-                Tumbler {
+                DateWheel {
                     width: parent.width * 0.42
                     height: parent.height
                     model: picker.monthNames
-                    visibleItemCount: 5
                     currentIndex: picker.monthIndex
-                    onCurrentIndexChanged: picker.pickMonth(currentIndex)
+                    onPicked: index => picker.pickMonth(index)
                     delegate: wheelRow
                     Accessible.name: qsTr("Month")
                 }
-                Tumbler {
+                DateWheel {
                     width: parent.width * 0.2
                     height: parent.height
                     model: 31
-                    visibleItemCount: 5
                     currentIndex: picker.dayIndex
-                    onCurrentIndexChanged: picker.pickDay(currentIndex)
+                    onPicked: index => picker.pickDay(index)
                     delegate: Text {
                         required property int index
                         text: index + 1
@@ -122,14 +120,13 @@ QVEmailViewControllerBase {
                     }
                     Accessible.name: qsTr("Day")
                 }
-                Tumbler {
+                DateWheel {
                     width: parent.width * 0.38
                     height: parent.height
                     model: picker.years
-                    visibleItemCount: 5
                     wrap: false
                     currentIndex: picker.yearIndex
-                    onCurrentIndexChanged: picker.pickYear(currentIndex)
+                    onPicked: index => picker.pickYear(index)
                     delegate: wheelRow
                     Accessible.name: qsTr("Year")
                 }

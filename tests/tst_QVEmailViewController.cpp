@@ -1,14 +1,10 @@
 #include "Patience.h"
 #include "FakeOfferService.h"
-#include "SandboxProcess.h"
 #include "SupportHarness.h"
 #include "QVNotificationCenter.h"
 #include "TicketFormCheck.h"
 
-#include <QtCore/QJsonArray>
-#include <QtCore/QJsonDocument>
-#include <QtNetwork/QNetworkAccessManager>
-#include <QtNetwork/QNetworkReply>
+#include <QtCore/QJsonObject>
 
 namespace {
 QString text(QQuickItem *input)
@@ -55,7 +51,6 @@ private slots:
     void sendingCarriesTheStatesFields();
     void twoQuickPressesFileTwoTickets();
     void failureKeepsEveryField();
-    void ticketLandsOnceInTheSandboxStore();
     void datePanel();
     void draggingUpDismissesTheKeyboard();
     void keyboardAloneFilesATicket();
@@ -481,34 +476,6 @@ void tst_QVEmailViewController::failureKeepsEveryField()
     QCOMPARE(text(form->offerDateCompletedView()->dateBtn()), date);
     QCOMPARE(form->activeUISate(), 2);
     QVERIFY(checked(form->offerTimeCompleted(), "yesCheckmark"));
-}
-
-void tst_QVEmailViewController::ticketLandsOnceInTheSandboxStore()
-{
-    SandboxProcess sandbox;
-    QVERIFY(sandbox.isRunning());
-    QuorvaRestAPI::sharedInstance()->addCaCertificates(sandbox.caCertificates());
-    QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(sandbox.baseAddress());
-    SupportHarness harness;
-    QVERIFY(harness.show());
-    QVEmailViewController *form = formInState(harness, 4);
-    QVERIFY(form);
-    harness.type(form->enterInfoView()->nameTextField(), QStringLiteral("Sandbox User"));
-    harness.type(form->enterInfoView()->emailTextField(), QStringLiteral("user@example.com"));
-    harness.type(form->enterCommentView()->commentInputField(), QStringLiteral("The offer page is blank."));
-    harness.clickInForm(form, form->sendButtonView()->sendBtn());
-    QTRY_VERIFY(alertOf(form));
-    QCOMPARE(alertOf(form)->property("title").toString(), QStringLiteral("Message Sent"));
-
-    QNetworkAccessManager network;
-    QNetworkReply *reply = network.get(QNetworkRequest(QUrl(QStringLiteral("http://%1/sandbox/tickets.json").arg(sandbox.baseAddress()))));
-    QTRY_VERIFY(reply->isFinished());
-    reply->deleteLater();
-    const QJsonArray stored = QJsonDocument::fromJson(reply->readAll()).object().value("tickets").toArray();
-    QCOMPARE(stored.size(), 1);
-    QCOMPARE(stored[0]["message"].toString(), QStringLiteral("The offer page is blank."));
-    QCOMPARE(stored[0]["subject_id"].toString(), QStringLiteral("2"));
-    QCOMPARE(stored[0]["user"].toString(), QStringLiteral("user-1"));
 }
 
 void tst_QVEmailViewController::datePanel()

@@ -5,6 +5,7 @@
 #include "TicketFormCheck.h"
 
 #include <QtCore/QJsonObject>
+#include <QtGui/QAccessible>
 
 namespace {
 QString text(QQuickItem *input)
@@ -493,11 +494,21 @@ void tst_QVEmailViewController::datePanel()
     // The wheels show the picker's date.
     form->uiDatePicker()->setProperty("date", QDate(2016, 3, 7));
     QList<int> shown;
-    for (QObject *wheel : form->uiDatePicker()->findChildren<QObject *>()) {
-        if (wheel->inherits("QQuickTumbler"))
-            shown << wheel->property("currentIndex").toInt();
+    QStringList spoken;
+    QList<QAccessibleInterface *> readerWheels;
+    for (QQuickItem *wheel : form->uiDatePicker()->findChildren<QQuickItem *>()) {
+        if (!wheel->inherits("QQuickTumbler"))
+            continue;
+        shown << wheel->property("currentIndex").toInt();
+        readerWheels << QAccessible::queryAccessibleInterface(wheel->parentItem());
+        spoken << readerWheels.last()->text(QAccessible::Description);
     }
     QCOMPARE(shown, (QList<int>{2, 6, 2016 - 2000}));
+    QCOMPARE(spoken, (QStringList{QLocale().standaloneMonthName(3, QLocale::ShortFormat), "7", "2016"}));
+    // A screen reader steps the day wheel.
+    readerWheels[1]->actionInterface()->doAction(QAccessibleActionInterface::increaseAction());
+    QCOMPARE(form->uiDatePicker()->property("date").toDate(), QDate(2016, 3, 8));
+    readerWheels[1]->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
 
     form->offerDateCompletedView()->notValid();
     harness.click(form->dateDoneBtn());

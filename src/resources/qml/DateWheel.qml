@@ -9,10 +9,12 @@ Item {
     property alias delegate: tumbler.delegate
     property alias currentIndex: tumbler.currentIndex
     property alias wrap: tumbler.wrap
+    // What the wheel shows, as a screen reader says it.
+    property string value
     signal picked(int index)
 
     Accessible.role: Accessible.SpinBox
-    Accessible.description: tumbler.currentItem ? tumbler.currentItem.text : ""
+    Accessible.description: wheel.value
     Accessible.onIncreaseAction: tumbler.currentIndex = Math.min(tumbler.currentIndex + 1, tumbler.count - 1)
     Accessible.onDecreaseAction: tumbler.currentIndex = Math.max(tumbler.currentIndex - 1, 0)
 

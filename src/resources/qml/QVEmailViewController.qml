@@ -99,6 +99,7 @@ QVEmailViewControllerBase {
                     height: parent.height
                     model: picker.monthNames
                     currentIndex: picker.monthIndex
+                    value: picker.monthNames[picker.monthIndex]
                     onPicked: index => picker.pickMonth(index)
                     delegate: wheelRow
                     Accessible.name: qsTr("Month")
@@ -108,6 +109,7 @@ QVEmailViewControllerBase {
                     height: parent.height
                     model: 31
                     currentIndex: picker.dayIndex
+                    value: picker.dayIndex + 1
                     onPicked: index => picker.pickDay(index)
                     delegate: Text {
                         required property int index
@@ -126,6 +128,7 @@ QVEmailViewControllerBase {
                     model: picker.years
                     wrap: false
                     currentIndex: picker.yearIndex
+                    value: picker.years[picker.yearIndex]
                     onPicked: index => picker.pickYear(index)
                     delegate: wheelRow
                     Accessible.name: qsTr("Year")

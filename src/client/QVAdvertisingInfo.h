@@ -2,10 +2,12 @@
 
 #include <QtCore/QString>
 
-// What the host knows about the device's advertising identifier. The identifier is
-// sent as canonical upper-case 8-4-4-4-12 text.
+/// What the host knows about the device's advertising identifier. The identifier is
+/// sent as canonical upper-case 8-4-4-4-12 text.
 struct QVAdvertisingInfo
 {
+    /// The advertising identifier; empty or not valid sends the all-zero one.
     QString identifier;
+    /// Whether the user allows tracking.
     bool trackingEnabled = false;
 };

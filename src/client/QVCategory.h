@@ -5,21 +5,27 @@
 #include <QtCore/QString>
 #include <QtQml/qqmlregistration.h>
 
-// An offer category; categoryId is the text sent as category_id.
-// A plain value type: copies are independent and cheap (implicitly shared strings).
+/// An offer category; categoryId is the text sent as category_id.
+/// A plain value type: copies are independent and cheap (implicitly shared strings).
 class QUORVAMEDIA_EXPORT QVCategory
 {
     Q_GADGET
     QML_VALUE_TYPE(category)
+    /// The text sent as the category's identifier.
     Q_PROPERTY(QString categoryId READ categoryId WRITE setCategoryId FINAL)
+    /// The name shown in the filter panel.
     Q_PROPERTY(QString categoryName READ categoryName WRITE setCategoryName FINAL)
 
 public:
+    ///@{
+    /// The fields, as the properties of the same names describe them.
     QString categoryId() const { return m_categoryId; }
     void setCategoryId(const QString &value) { m_categoryId = value; }
     QString categoryName() const { return m_categoryName; }
     void setCategoryName(const QString &value) { m_categoryName = value; }
+    ///@}
 
+    /// True when every field is equal.
     friend bool operator==(const QVCategory &, const QVCategory &) = default;
 
 private:

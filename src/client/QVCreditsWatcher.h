@@ -10,46 +10,62 @@
 #include <memory>
 #include <optional>
 
-// Tells the app when the user has been credited, by polling the user's history. The
-// first answered poll is the baseline: what is already credited then is not reported.
-// Crediting the balance is the service's job; this is for telling the user.
+/// Tells the app when the user has been credited, by polling the user's history. The
+/// first answered poll is the baseline: what is already credited then is not reported.
+/// Crediting the balance is the service's job; this is for telling the user.
 class QUORVAMEDIA_EXPORT QVCreditsWatcher : public QObject
 {
     Q_OBJECT
+    /// Milliseconds from the end of one poll to the start of the next; at least
+    /// #kMinimumInterval, #kDefaultInterval unless set.
     Q_PROPERTY(int interval READ interval WRITE setInterval NOTIFY intervalChanged FINAL)
+    /// Polls once at once when switched on, then every interval; off until set.
     Q_PROPERTY(bool active READ isActive WRITE setActive NOTIFY activeChanged FINAL)
+    /// True once a poll has been answered: later credits are reported.
     Q_PROPERTY(bool hasBaseline READ hasBaseline NOTIFY hasBaselineChanged FINAL)
+    /// True while a poll is under way.
     Q_PROPERTY(bool checking READ isChecking NOTIFY checkingChanged FINAL)
 
 public:
+    /// The interval until one is set, in milliseconds.
     static constexpr int kDefaultInterval = 60000;
+    /// The shortest interval, in milliseconds; a shorter one is raised to it.
     static constexpr int kMinimumInterval = 1000;
 
+    /// A watcher of the user's history for the identifiers, inactive until setActive().
+    /// Use it on the GUI thread.
     QVCreditsWatcher(const QString &pubId, const QString &corvelId, const QString &subId1,
                      QObject *parent = nullptr);
+    /// Stops polling; a poll under way ends without a signal.
     ~QVCreditsWatcher() override;
 
-    // Milliseconds from the end of one poll to the start of the next; at least a second.
+    /// Milliseconds from the end of one poll to the start of the next; at least a second.
     int interval() const;
+    /// Sets the interval; see #interval.
     void setInterval(int milliseconds);
-    // Polls once at once when switched on, then every interval; off until the host sets it.
+    /// Polls once at once when switched on, then every interval; off until the host sets it.
     bool isActive() const;
+    /// Switches polling on or off; see #active.
     void setActive(bool active);
+    /// See #hasBaseline.
     bool hasBaseline() const;
-    // A poll is under way.
+    /// A poll is under way.
     bool isChecking() const;
 
 public slots:
-    // Polls now; while a poll is under way, one more follows when it ends.
+    /// Polls now; while a poll is under way, one more follows when it ends.
     void checkNow();
 
 signals:
-    // The transactions that are new since the last answered poll, in the reply's order.
+    /// The transactions that are new since the last answered poll, in the reply's order.
     void creditsReceived(const QList<QVTransaction> &transactions);
+    ///@{
+    /// Emitted when the property of the same name changes.
     void intervalChanged();
     void activeChanged();
     void hasBaselineChanged();
     void checkingChanged();
+    ///@}
 
 private:
     Q_DECL_HIDDEN void sendPoll();

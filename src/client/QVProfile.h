@@ -5,21 +5,27 @@
 #include <QtCore/QString>
 #include <QtQml/qqmlregistration.h>
 
-// Display settings of an offer-wall profile.
-// A plain value type: copies are independent and cheap (implicitly shared strings).
+/// Display settings of an offer-wall profile.
+/// A plain value type: copies are independent and cheap (implicitly shared strings).
 class QUORVAMEDIA_EXPORT QVProfile
 {
     Q_GADGET
     QML_VALUE_TYPE(profile)
+    /// Whether the wall shows the currency name in its title.
     Q_PROPERTY(bool showCurrency READ showCurrency WRITE setShowCurrency FINAL)
+    /// The name of the app's currency, such as "Gems".
     Q_PROPERTY(QString currencyName READ currencyName WRITE setCurrencyName FINAL)
 
 public:
+    ///@{
+    /// The fields, as the properties of the same names describe them.
     bool showCurrency() const { return m_showCurrency; }
     void setShowCurrency(bool value) { m_showCurrency = value; }
     QString currencyName() const { return m_currencyName; }
     void setCurrencyName(const QString &value) { m_currencyName = value; }
+    ///@}
 
+    /// True when every field is equal.
     friend bool operator==(const QVProfile &, const QVProfile &) = default;
 
 private:

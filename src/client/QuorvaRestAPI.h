@@ -21,33 +21,48 @@
 class QThreadPool;
 namespace quorva::detail { struct TransferRequest; struct ServiceRequests; }
 
-// The one client of the offer service. Holds the publisher, profile and user identifiers
-// and the targeting values; every request is asynchronous and reports back on the GUI
-// thread, always after the call that started it has returned. Every request ends in
-// exactly one callback and goes on the wire exactly once: a reply with any HTTP status
-// is a response; a transport failure, the transfer time-out or the size cap is a failure.
+/// The one client of the offer service. Holds the publisher, profile and user identifiers
+/// and the targeting values; every request is asynchronous and reports back on the GUI
+/// thread, always after the call that started it has returned. Every request ends in
+/// exactly one callback and goes on the wire exactly once: a reply with any HTTP status
+/// is a response; a transport failure, the transfer time-out or the size cap is a failure.
 class QUORVAMEDIA_EXPORT QuorvaRestAPI : public QObject
 {
     Q_OBJECT
 
 public:
+    /// Receives a page of offers and whether the service may have another page.
     using OffersCallback = std::function<void(const QList<QVOffer> &offers, bool more)>;
+    /// Receives the publisher's profile (its currency name).
     using ProfileCallback = std::function<void(const QVProfile &profile)>;
+    /// Receives the offer categories.
     using CategoriesCallback = std::function<void(const QList<QVCategory> &categories)>;
+    /// Receives the user's credited transactions, newest first.
     using HistoryCallback = std::function<void(const QList<QVTransaction> &transactions)>;
+    /// Receives the service's identifier of a ticket it stored.
     using TicketCallback = std::function<void(const QVariant &ticketId)>;
+    /// Called instead of the success callback when a request fails.
     using FailureCallback = std::function<void()>;
+    /// Gives the device's advertising identifier and whether tracking is allowed.
     using AdvertisingInfoProvider = std::function<QVAdvertisingInfo()>;
 
+    /// The transfer time-out until one is set.
     static constexpr std::chrono::milliseconds kDefaultTransferTimeout{60000};
+    /// The largest reply taken until a cap is set, in bytes.
     static constexpr qint64 kDefaultMaximumReplySize = 4 * 1024 * 1024;
 
+    /// The client every wall uses; created on first use and kept for the life of the
+    /// process. Call its functions on the GUI thread.
     static QuorvaRestAPI *sharedInstance();
 
-    // Worker pool from which requests are sent and on which replies are parsed; the same
-    // pool for every instance.
+    /// Worker pool from which requests are sent and on which replies are parsed; the same
+    /// pool for every instance.
     QThreadPool *connectionQueue() const;
 
+    ///@{
+    /// The identifiers and targeting values sent with the requests: publisher, wall and
+    /// user identifiers, gender ("m" or "f"), age range and the host's pass-through
+    /// values. A value set applies to every request started after it.
     QString pubId() const { return m_pubId; }
     void setPubId(const QString &value) { m_pubId = value; }
     QString corvelId() const { return m_corvelId; }
@@ -64,37 +79,55 @@ public:
     void setSubId3(const QString &value) { m_subId3 = value; }
     QString subId4() const { return m_subId4; }
     void setSubId4(const QString &value) { m_subId4 = value; }
+    ///@}
 
-    // "host" or "host:port"; both schemes go to the same host and port.
+    /// "host" or "host:port"; both schemes go to the same host and port.
     void setServiceBaseAddress(const QString &hostAndOptionalPort);
+    /// The address set with setServiceBaseAddress().
     QString serviceBaseAddress() const { return m_baseAddress; }
 
-    // Extra certificate authorities trusted by every request of the library (REST and
-    // pictures), on top of the system's. Certificate checks are never switched off.
+    /// Extra certificate authorities trusted by every request of the library (REST and
+    /// pictures), on top of the system's. Certificate checks are never switched off.
     void addCaCertificates(const QList<QSslCertificate> &certificates);
 
-    // How long a request may take from its start to the last byte of the reply before
-    // it ends in the failure callback (60 s unless set).
+    /// How long a request may take from its start to the last byte of the reply before
+    /// it ends in the failure callback (60 s unless set).
     void setTransferTimeout(std::chrono::milliseconds timeout);
+    /// The transfer time-out set with setTransferTimeout().
     std::chrono::milliseconds transferTimeout() const { return m_transferTimeout; }
-    // The most a reply (head and body) may hold; a larger one is stopped and ends in
-    // the failure callback (4 MiB unless set).
+    /// The most a reply (head and body) may hold; a larger one is stopped and ends in
+    /// the failure callback (4 MiB unless set).
     void setMaximumReplySize(qint64 bytes);
+    /// The cap set with setMaximumReplySize(), in bytes.
     qint64 maximumReplySize() const { return m_maximumReplySize; }
 
-    // Read anew for every offers request. Without a provider the all-zero identifier
-    // is sent and tracking counts as not allowed.
+    /// Read anew for every offers request. Without a provider the all-zero identifier
+    /// is sent and tracking counts as not allowed.
     void setAdvertisingInfoProvider(AdvertisingInfoProvider provider);
 
+    /// The address base followed by the parameters as a query string, values as given,
+    /// in the map's order.
     QString urlString(const QString &base, const std::optional<QVariantMap> &params) const;
+    /// The User-Agent header every request carries: the host's name and version, the
+    /// device model and the library's version.
     QString customUserAgent();
+    /// A service timestamp ("2016-03-07T10:20:30+02:00") as the history shows it
+    /// ("03/07/16"); empty when it cannot be read.
     QString dateStringFromString(const QString &timestamp) const;
 
+    /// Requests the page of offers that starts at the offset, sorted and filtered as
+    /// given (empty: the service's default; featured: only featured offers).
     void fetchOffers(quint64 offset, const QString &sortby, const QString &category, bool featured,
                      OffersCallback callback, FailureCallback failure);
+    /// Requests the publisher's profile.
     void fetchProfile(ProfileCallback callback, FailureCallback failure);
+    /// Requests the offer categories.
     void fetchCategories(CategoriesCallback callback, FailureCallback failure);
+    /// Requests the user's credited history; "no content" is an empty history.
     void fetchHistory(HistoryCallback callback, FailureCallback failure);
+    /// Files a support ticket. Name, e-mail and subject must be set; the offer name and
+    /// completion date go only when not empty. Succeeds only when the service answers
+    /// 201; a failure never sends the ticket again.
     void createSupportTicket(const QString &name, const QString &emailId, const QString &subject,
                              const QString &message, const QString &offerName,
                              const QString &completedAt, TicketCallback callback,
@@ -119,7 +152,7 @@ private:
     QString m_subId4;
 
     QString m_baseAddress;
-    // Replaced, never changed, so requests in flight keep the list they started with.
+    /// Replaced, never changed, so requests in flight keep the list they started with.
     std::shared_ptr<const QList<QByteArray>> m_extraAuthorities;
     std::chrono::milliseconds m_transferTimeout = kDefaultTransferTimeout;
     qint64 m_maximumReplySize = kDefaultMaximumReplySize;

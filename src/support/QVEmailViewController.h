@@ -16,103 +16,160 @@ class QVOfferDateCompletedView;
 class QVSupportSendButtonView;
 class QVUnableToAssist;
 
-// Shown the form's validation messages, one at a time.
+/// Shown the form's validation messages, one at a time.
 class QUORVAMEDIA_EXPORT QVEmailViewControllerDelegate
 {
 public:
+    /// The delegate is not owned by the form.
     virtual ~QVEmailViewControllerDelegate() = default;
+    /// Shows the message, such as "Please enter a valid email".
     virtual void invalidInputMessage(const QString &message) = 0;
 };
 
-// The support-ticket form. Stacks the pieces the current step needs, top to bottom, in
-// one content view inside its scroll view, and moves through six states as the user
-// picks a subject (not credited 1, report 4, other 5) and answers the yes/no question
-// (yes 2, no 3); state 0 is the start. Validates and sends the ticket (the send button
-// exists in states 2, 4 and 5), and manages the keyboard insets and the date panel.
+/// The support-ticket form. Stacks the pieces the current step needs, top to bottom, in
+/// one content view inside its scroll view, and moves through six states as the user
+/// picks a subject (not credited 1, report 4, other 5) and answers the yes/no question
+/// (yes 2, no 3); state 0 is the start. Validates and sends the ticket (the send button
+/// exists in states 2, 4 and 5), and manages the keyboard insets and the date panel.
 class QUORVAMEDIA_EXPORT QVEmailViewController : public QQuickItem,
                                                  public QVChooseSubjectViewDelegate,
                                                  public QVOfferTimeCompletedViewDelegate
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(QVEmailViewControllerBase)
+    /// Outlet: the scroll view that holds the form.
     Q_PROPERTY(QQuickItem *scrollView MEMBER m_scrollView NOTIFY outletsChanged FINAL)
+    /// Outlet: the date panel that slides over the form's bottom.
     Q_PROPERTY(QQuickItem *datePickerView MEMBER m_datePickerView NOTIFY outletsChanged FINAL)
+    /// Outlet: the date wheels.
     Q_PROPERTY(QQuickItem *uiDatePicker MEMBER m_uiDatePicker NOTIFY outletsChanged FINAL)
+    /// Outlet: the date panel's "Done" button.
     Q_PROPERTY(QQuickItem *dateDoneBtn MEMBER m_dateDoneBtn NOTIFY outletsChanged FINAL)
+    /// The form's state, 0 to 5, as the class describes them.
     Q_PROPERTY(int activeUISate READ activeUISate NOTIFY activeUISateChanged FINAL)
+    /// How much of the form's bottom the on-screen keyboard covers, in points.
     Q_PROPERTY(qreal keyboardInset READ keyboardInset NOTIFY keyboardInsetChanged FINAL)
+    /// How much of the form's top the error strip covers, in points.
     Q_PROPERTY(qreal topInset READ topInset NOTIFY topInsetChanged FINAL)
 
 public:
+    /// Room kept below the focused field above the keyboard, in points.
     static constexpr qreal kMinimumOverscroll = 10;
+    /// An upward drag of more than this, in points, in one step hides the keyboard.
     static constexpr qreal kDismissDragDistance = 10;
+    /// How long the date panel fades in or out, in milliseconds.
     static constexpr int kDatePanelFadeMs = 200;
 
+    /// An empty form; the support centre builds it.
     explicit QVEmailViewController(QQuickItem *parent = nullptr);
+    /// A ticket under way ends without calling back into the form.
     ~QVEmailViewController() override;
+    /// The form's type name, "QVEmailViewController".
     static QString identifier() { return QStringLiteral("QVEmailViewController"); }
 
+    ///@{
+    /// The listener shown the validation messages; not owned.
     QVEmailViewControllerDelegate *delegate() const { return m_delegate; }
     void setDelegate(QVEmailViewControllerDelegate *delegate) { m_delegate = delegate; }
+    ///@}
 
-    // Builds the pieces and enters state 0; call once the delegate is set.
+    /// Builds the pieces and enters state 0; call once the delegate is set.
     void viewDidLoad();
 
+    ///@{
+    /// See #activeUISate. Setting it lays out the pieces of that state.
     int activeUISate() const { return m_activeUISate; }
     void setUIState(int state);
+    ///@}
+    /// Sizes the content to the stacked pieces.
     void updateContentSize();
+    /// The bottom of the lowest piece, in points.
     qreal getMaximumHeight() const;
+    /// See #keyboardInset.
     qreal keyboardInset() const { return m_keyboardInset; }
-    // How much of the form's top is covered (by the container's error strip); the form
-    // keeps what it scrolls to below that.
+    /// How much of the form's top is covered (by the container's error strip); the form
+    /// keeps what it scrolls to below that.
     qreal topInset() const { return m_topInset; }
+    /// Sets #topInset.
     void setTopInset(qreal inset);
+    /// The chosen subject's identifier, "1" to "3", or empty.
     QString selectedSubjectId() const { return m_selectedSubjectId; }
+    /// The completion date picked, or a null date.
     QDate chosenDate() const { return m_chosenDate; }
 
+    ///@{
+    /// The form's pieces and outlets; owned by the form.
     QQuickItem *contentView() const { return m_contentView; }
+    /// See #scrollView.
     QQuickItem *scrollView() const { return m_scrollView; }
+    /// See #datePickerView.
     QQuickItem *datePickerView() const { return m_datePickerView; }
+    /// See #uiDatePicker.
     QQuickItem *uiDatePicker() const { return m_uiDatePicker; }
+    /// See #dateDoneBtn.
     QQuickItem *dateDoneBtn() const { return m_dateDoneBtn; }
+    /// The enter info view, set by the interface file.
     QVEnterInformationView *enterInfoView() const { return m_enterInfoView; }
+    /// The choose subject view, set by the interface file.
     QVChooseSubjectView *chooseSubjectView() const { return m_chooseSubjectView; }
+    /// The offer time completed, set by the interface file.
     QVOfferTimeCompletedView *offerTimeCompleted() const { return m_offerTimeCompleted; }
+    /// The offer date completed view, set by the interface file.
     QVOfferDateCompletedView *offerDateCompletedView() const { return m_offerDateCompletedView; }
+    /// The enter offer title view, set by the interface file.
     QVEnterOfferTitleView *enterOfferTitleView() const { return m_enterOfferTitleView; }
+    /// The enter comment view, set by the interface file.
     QVEnterCommentView *enterCommentView() const { return m_enterCommentView; }
+    /// The send button view, set by the interface file.
     QVSupportSendButtonView *sendButtonView() const { return m_sendButtonView; }
+    /// The unable to assist view, set by the interface file.
     QVUnableToAssist *unableToAssistView() const { return m_unableToAssistView; }
+    ///@}
 
+    /// A subject row was tapped: moves to its state, keeping what was typed.
     void onSubjectChange(QQuickItem *button) override;
+    /// The yes/no question was answered: moves to state 2 or 3.
     void onChoiceChange(QQuickItem *button) override;
 
-    // The scroll view reports every change of its offset here.
+    /// The scroll view reports every change of its offset here.
     Q_INVOKABLE void scrollViewDidScroll();
-    // The keyboard's frame in window coordinates, as it appears; and as it goes.
+    /// The keyboard's frame in window coordinates, as it appears; and as it goes.
     void keyboardDidShow(const QRectF &keyboardFrame);
+    /// The keyboard is going: the form's bottom is free again.
     void keyboardWillBeHidden();
+    /// The date panel's "Done": takes the picked date and hides the panel.
     Q_INVOKABLE void onDateDonePressed();
 
-    // Checks the form; on the first problem marks its field, tells the delegate and
-    // scrolls to it.
+    /// Checks the form; on the first problem marks its field, tells the delegate and
+    /// scrolls to it.
     bool validateFields();
+    /// The "Message Sent" alert.
     void showTicketCreatedAlert();
+    /// The "No Connection" alert; every field keeps its text.
     void showFailureAlert();
+    /// Empties every field and choice after a ticket was stored.
     void clearInputFields();
 
 public slots:
-    // The date button's and the send button's actions.
+    /// The date button's and the send button's actions.
     void dateInputFieldPressed();
+    /// Validates the form and files one ticket per press.
     void sendPressed();
 
 signals:
+    ///@{
+    /// Emitted when the properties that name this signal as their NOTIFY change.
     void outletsChanged();
+    ///@{
+    /// Emitted when the properties that name this signal as their NOTIFY change.
     void activeUISateChanged();
     void keyboardInsetChanged();
     void topInsetChanged();
+    ///@}
+    ///@}
 
 protected:
+    /// Reimplemented from QQuickItem.
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
 
 private:

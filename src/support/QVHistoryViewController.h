@@ -10,38 +10,55 @@
 class QVPayoutFormatter;
 class QVTransactionsListModel;
 
-// The history tab: the user's credited offers, asked for once when the tab is built and
-// never refreshed. An answer without transactions shows the empty label instead; a
-// failed request shows nothing at all.
+/// The history tab: the user's credited offers, asked for once when the tab is built and
+/// never refreshed. An answer without transactions shows the empty label instead; a
+/// failed request shows nothing at all.
 class QUORVAMEDIA_EXPORT QVHistoryViewController : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(QVHistoryViewControllerBase)
+    /// Outlet: the collection view, set by the interface file.
     Q_PROPERTY(QQuickItem *collectionView MEMBER m_collectionView NOTIFY outletsChanged FINAL)
+    /// Outlet: the no offers completed, set by the interface file.
     Q_PROPERTY(QQuickItem *noOffersCompleted MEMBER m_noOffersCompleted NOTIFY outletsChanged FINAL)
+    /// The credited offers, as the list shows them. Owned by the tab.
     Q_PROPERTY(QAbstractItemModel *model READ model CONSTANT FINAL)
+    /// True while the history request is under way.
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged FINAL)
+    /// A row's height, in points.
     Q_PROPERTY(qreal itemHeight READ itemHeight CONSTANT FINAL)
+    /// The space above the first row, in points.
     Q_PROPERTY(qreal sectionInsetTop READ sectionInsetTop CONSTANT FINAL)
 
 public:
+    /// An empty tab; the support centre builds it.
     explicit QVHistoryViewController(QQuickItem *parent = nullptr);
+    /// A request under way ends without calling back into the tab.
     ~QVHistoryViewController() override;
+    /// The type name, "QVHistoryViewController".
     static QString identifier() { return QStringLiteral("QVHistoryViewController"); }
+    ///@{
+    /// See the properties of the same names.
     static qreal itemHeight() { return 130; }
     static qreal sectionInsetTop() { return 5; }
+    ///@}
 
-    // Sends the history request.
+    /// Sends the history request.
     void viewDidLoad();
 
+    /// See #model.
     QAbstractItemModel *model() const;
+    /// See #isLoading.
     bool isLoading() const { return m_isLoading; }
-    // The row count; also decides the empty label, which only this changes.
+    /// The row count; also decides the empty label, which only this changes.
     int numberOfItems();
 
 signals:
+    ///@{
+    /// Emitted when the properties that name this signal as their NOTIFY change.
     void outletsChanged();
     void isLoadingChanged();
+    ///@}
 
 private:
     Q_DECL_HIDDEN void setLoading(bool loading);

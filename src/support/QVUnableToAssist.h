@@ -4,8 +4,8 @@
 
 #include <QtQuick/QQuickItem>
 
-// The notice the form shows instead of the send button when it cannot take the ticket;
-// its content lives entirely in its interface file.
+/// The notice the form shows instead of the send button when it cannot take the ticket;
+/// its content lives entirely in its interface file.
 class QUORVAMEDIA_EXPORT QVUnableToAssist : public QQuickItem
 {
     Q_OBJECT
@@ -13,5 +13,6 @@ class QUORVAMEDIA_EXPORT QVUnableToAssist : public QQuickItem
 
 public:
     using QQuickItem::QQuickItem;
+    /// The type name, "QVUnableToAssist".
     static QString identifier() { return QStringLiteral("QVUnableToAssist"); }
 };

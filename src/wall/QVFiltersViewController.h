@@ -12,81 +12,123 @@
 
 class QVFilterListModel;
 
-// Told which sort and category the user saved. The category is absent when the
-// categories could not be loaded.
+/// Told which sort and category the user saved. The category is absent when the
+/// categories could not be loaded.
 class QUORVAMEDIA_EXPORT QVFiltersViewControllerDelegate
 {
 public:
+    /// The delegate is not owned by the panel.
     virtual ~QVFiltersViewControllerDelegate() = default;
+    /// The user saved this choice.
     virtual void onSaveFiltersPressed(const std::optional<QVCategory> &category, const QVSort &sort) = 0;
 };
 
-// The sort/filter panel: four sort choices and the service's categories behind
-// "All Categories" and "Featured", one checkmark per section, and a save button that
-// appears with the first real change.
+/// The sort/filter panel: four sort choices and the service's categories behind
+/// "All Categories" and "Featured", one checkmark per section, and a save button that
+/// appears with the first real change.
 class QUORVAMEDIA_EXPORT QVFiltersViewController : public QQuickItem
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(QVFiltersViewControllerBase)
+    /// Outlet: the list of rows.
     Q_PROPERTY(QQuickItem *collectionView MEMBER m_collectionView NOTIFY outletsChanged FINAL)
+    /// Outlet: the save button.
     Q_PROPERTY(QQuickItem *saveButton MEMBER m_saveButton NOTIFY outletsChanged FINAL)
+    /// The panel's sections and rows, as the list shows them. Owned by the panel.
     Q_PROPERTY(QAbstractItemModel *model READ model CONSTANT FINAL)
+    /// Space above the first section, in points.
     Q_PROPERTY(qreal topMargin READ topMargin WRITE setTopMargin NOTIFY topMarginChanged FINAL)
+    /// A row's height, in points.
     Q_PROPERTY(qreal itemHeight READ itemHeight CONSTANT FINAL)
+    /// Space above each section, in points.
     Q_PROPERTY(qreal sectionInsetTop READ sectionInsetTop CONSTANT FINAL)
+    /// The corner radius of a section's card, in points.
     Q_PROPERTY(qreal cornerRadius READ cornerRadius CONSTANT FINAL)
 
 public:
+    /// The section of sort choices.
     static constexpr int kTypeSection = 0;
+    /// The section of categories.
     static constexpr int kCategorySection = 1;
+    /// #topMargin in the tablet popover, in points.
     static constexpr qreal kTabletTopMargin = 10;
 
+    /// An empty panel; the wall builds it when the user opens it.
     explicit QVFiltersViewController(QQuickItem *parent = nullptr);
+    /// A category request under way ends without calling back into the panel.
     ~QVFiltersViewController() override;
 
+    /// The first category row, which filters nothing: "All Categories".
     static QString allCategoriesName();
+    /// The second category row, featured offers only: "Featured".
     static QString featuredName();
+    /// The four sort choices, in the panel's order.
     static QList<QVSort> defaultSortOptions();
-    // The process-wide category list; absent until the first successful load.
+    /// The process-wide category list; absent until the first successful load.
     static const std::optional<QList<QVCategory>> &allCategories();
-    static void resetAllCategories(); // for tests: as if no panel had loaded yet
+    /// Forgets the loaded categories, as if no panel had loaded them yet.
+    static void resetAllCategories();
 
+    ///@{
+    /// The listener told of the saved choice; not owned.
     QVFiltersViewControllerDelegate *delegate() const { return m_delegate; }
     void setDelegate(QVFiltersViewControllerDelegate *delegate) { m_delegate = delegate; }
+    ///@}
+    ///@{
+    /// The choice the panel opens with, checked; set before viewDidLoad().
     std::optional<QVCategory> categoryParam() const { return m_categoryParam; }
     void setCategoryParam(const std::optional<QVCategory> &category) { m_categoryParam = category; }
     std::optional<QVSort> sortParam() const { return m_sortParam; }
     void setSortParam(const std::optional<QVSort> &sort) { m_sortParam = sort; }
+    ///@}
+    /// The sort choices the panel shows.
     QList<QVSort> sortOptions() const { return m_sortOptions; }
 
+    ///@{
+    /// See the properties of the same names.
     QAbstractItemModel *model() const;
     qreal topMargin() const { return m_topMargin; }
     void setTopMargin(qreal margin);
     static qreal itemHeight() { return 60; }
     static qreal sectionInsetTop() { return 5; }
     static qreal cornerRadius() { return 6; }
+    ///@}
 
+    ///@{
+    /// The checked row of each section.
     int sortKeyIndex() const { return m_sortKeyIndex; }
     int categoryKeyIndex() const { return m_categoryKeyIndex; }
+    ///@}
+    /// The number of rows in the section.
     int numberOfItems(int section) const;
+    /// The text of a row.
     QString titleForRow(int section, int row) const;
+    /// The title of a section.
     static QString titleForSection(int section);
 
-    // Call once the delegate and the current choice are set.
+    /// Call once the delegate and the current choice are set.
     void viewDidLoad();
+    /// Requests the categories unless they were loaded before; a failure alerts.
     void loadCategories();
+    /// A tap on a row: checks it, unchecking the section's other row.
     Q_INVOKABLE void didSelectItem(int section, int row);
+    /// The save button: tells the delegate the checked choice.
     Q_INVOKABLE void onSavedPressed();
 
 signals:
+    ///@{
+    /// Emitted when the properties that name this signal as their NOTIFY change.
     void outletsChanged();
     void topMarginChanged();
+    ///@}
 
 protected:
-    // The panel takes every press inside its area, so nothing beneath it is touched.
+    ///@{
+    /// The panel takes every press inside its area, so nothing beneath it is touched.
     void mousePressEvent(QMouseEvent *event) override;
     void touchEvent(QTouchEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    ///@}
 
 private:
     Q_DECL_HIDDEN void refresh();

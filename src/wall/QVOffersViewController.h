@@ -27,100 +27,158 @@ class QVPayoutFormatter;
 namespace quorva::detail { struct TransferRequest; }
 
 
-// The host's listener: told once, when the user presses close.
+/// The host's listener: told once, when the user presses close.
 class QUORVAMEDIA_EXPORT QVOffersViewControllerDelegate
 {
 public:
     virtual ~QVOffersViewControllerDelegate() = default;
+    /// Called on the GUI thread each time the user presses the wall's close button.
     virtual void onCloseOffersVCPressed() = 0;
 };
 
-// The offer wall. Create it with newOffersWallForPublisherId(), parent it into a window
-// and size it; it loads its first page when it is first shown in a window. QML hosts
-// can declare it as QVOffersViewController { pubId: ...; corvelId: ...; subId1: ... }.
+/// The offer wall. Create it with newOffersWallForPublisherId(), parent it into a window
+/// and size it; it loads its first page when it is first shown in a window. QML hosts
+/// can declare it as QVOffersViewController { pubId: ...; corvelId: ...; subId1: ... }.
 class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
                                                   public QVOfferUICollectionViewCellDelegate,
                                                   public QVFiltersViewControllerDelegate
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(QVOffersViewControllerBase)
+    /// The publisher's identifier, the first part of every request's address. Shared
+    /// with every other wall of the process through the client.
     Q_PROPERTY(QString pubId READ pubId WRITE setPubId NOTIFY identifiersChanged FINAL)
+    /// The wall's identifier within the publisher's account. Shared like #pubId.
     Q_PROPERTY(QString corvelId READ corvelId WRITE setCorvelId NOTIFY identifiersChanged FINAL)
+    /// The host's identifier of its user, sent with every request. Shared like #pubId.
     Q_PROPERTY(QString subId1 READ subId1 WRITE setSubId1 NOTIFY identifiersChanged FINAL)
+    /// The user's gender for targeting: 0 none, 1 female, 2 male. Write-only in effect:
+    /// reading gives the initial 0, the value goes to the shared client.
     Q_PROPERTY(int gender READ gender WRITE setGender NOTIFY targetingChanged FINAL)
+    /// The user's age range for targeting, 0 when none. Write-only in effect, like #gender.
     Q_PROPERTY(int ageRange READ ageRange WRITE setAgeRange NOTIFY targetingChanged FINAL)
+    /// Extra values the host passes through to the service. Write-only in effect, like #gender.
     Q_PROPERTY(QString subid2 READ subid2 WRITE setSubid2 NOTIFY targetingChanged FINAL)
+    /// See #subid2.
     Q_PROPERTY(QString subid3 READ subid3 WRITE setSubid3 NOTIFY targetingChanged FINAL)
+    /// See #subid2.
     Q_PROPERTY(QString subid4 READ subid4 WRITE setSubid4 NOTIFY targetingChanged FINAL)
+    /// The header bar: an outlet, an item of the wall's interface file set when it is built.
     Q_PROPERTY(QQuickItem *headerView MEMBER m_headerView NOTIFY outletsChanged FINAL)
+    /// The header's title text.
     Q_PROPERTY(QQuickItem *headerTitle MEMBER m_headerTitle NOTIFY outletsChanged FINAL)
+    /// The close button in the header.
     Q_PROPERTY(QQuickItem *closeBtn MEMBER m_closeBtn NOTIFY outletsChanged FINAL)
+    /// The button that opens the sort and filter panel.
     Q_PROPERTY(QQuickItem *filterBtn MEMBER m_filterBtn NOTIFY outletsChanged FINAL)
+    /// The button that opens the support centre.
     Q_PROPERTY(QQuickItem *supportBtn MEMBER m_supportBtn NOTIFY outletsChanged FINAL)
+    /// The list of offers.
     Q_PROPERTY(QQuickItem *collectionView MEMBER m_collectionView NOTIFY outletsChanged FINAL)
+    /// The text shown when the service has no offers.
     Q_PROPERTY(QQuickItem *noOffersLabel MEMBER m_noOffersLabel NOTIFY outletsChanged FINAL)
-    // The tablet popovers, built when first presented.
+    /// The sort and filter panel's popover on a tablet, built when first presented.
     Q_PROPERTY(QObject *filterPopover MEMBER m_filterPopover NOTIFY outletsChanged FINAL)
+    /// The support centre's popover on a tablet, built when first presented.
     Q_PROPERTY(QObject *supportPopover MEMBER m_supportPopover NOTIFY outletsChanged FINAL)
+    /// The offers loaded so far, as the list shows them. Owned by the wall.
     Q_PROPERTY(QAbstractItemModel *offersModel READ offersModel CONSTANT FINAL)
+    /// The size of one offer cell at the wall's current width, in points.
     Q_PROPERTY(QSizeF cellSize READ cellSize NOTIFY cellSizeChanged FINAL)
+    /// Offers side by side in a row of the list: 2 when wider than
+    /// #kTwoColumnMinimumWidth, else 1.
     Q_PROPERTY(int columns READ columns NOTIFY cellSizeChanged FINAL)
+    /// The number of offers loaded so far.
     Q_PROPERTY(int offerCount READ offerCount NOTIFY offerCountChanged FINAL)
+    /// True while a page has been loading for longer than #kLoadingIndicatorDelayMs.
     Q_PROPERTY(bool showsLoadingIndicator READ showsLoadingIndicator NOTIFY showsLoadingIndicatorChanged FINAL)
+    /// The space above the first cell, in points.
     Q_PROPERTY(qreal sectionInsetTop READ sectionInsetTop CONSTANT FINAL)
+    /// The header's height, in points.
     Q_PROPERTY(qreal headerHeight READ headerHeight CONSTANT FINAL)
+    /// The support centre's top edge on a phone, in points from the wall's top.
     Q_PROPERTY(qreal supportTop READ supportTop CONSTANT FINAL)
+    /// The width of the tablet popovers, in points.
     Q_PROPERTY(qreal popoverWidth READ popoverWidth CONSTANT FINAL)
+    /// True while a page request is under way.
     Q_PROPERTY(bool loadingOffers READ loadingOffers NOTIFY loadingOffersChanged FINAL)
+    /// True while the sort and filter panel is open.
     Q_PROPERTY(bool filtersViewOpen READ isFiltersViewOpen NOTIFY overlaysChanged FINAL)
+    /// True while a phone panel slides in or out.
     Q_PROPERTY(bool overlayAnimating READ isOverlayAnimating NOTIFY overlayAnimatingChanged FINAL)
+    /// True when the list is empty because its last page request failed; the wall
+    /// then shows a "Try again" button.
     Q_PROPERTY(bool loadFailed READ loadFailed NOTIFY loadFailedChanged FINAL)
+    /// The credit notice under the header (an outlet, set by the interface file).
     Q_PROPERTY(QQuickItem *creditNotice MEMBER m_creditNotice NOTIFY outletsChanged FINAL)
-    // Every screen, panel, popover and alert of the wall reads its colours from here.
+    /// Every screen, panel, popover and alert of the wall reads its colours from here.
     Q_PROPERTY(QVTheme theme READ theme WRITE setTheme NOTIFY themeChanged FINAL)
-    // The wall's language reads right to left: every screen is mirrored.
+    /// The wall's language reads right to left: every screen is mirrored.
     Q_PROPERTY(bool rightToLeft READ isRightToLeft CONSTANT FINAL)
+    /// True while the credit notice shows.
     Q_PROPERTY(bool creditNoticeShown READ creditNoticeShown NOTIFY creditNoticeChanged FINAL)
+    /// The credit notice's first line, such as "+1,500 Gems".
     Q_PROPERTY(QString creditNoticeText READ creditNoticeText NOTIFY creditNoticeChanged FINAL)
+    /// The credit notice's second line: the names of the credited offers.
     Q_PROPERTY(QString creditNoticeDetail READ creditNoticeDetail NOTIFY creditNoticeChanged FINAL)
 
 public:
+    /// Creates a wall; QML creates it this way. Set the identifiers before it is first
+    /// shown. C++ hosts usually call newOffersWallForPublisherId() instead.
     explicit QVOffersViewController(QQuickItem *parent = nullptr);
+    /// Destroys the wall; requests under way end without calling back into it.
     ~QVOffersViewController() override;
 
+    /// Creates a wall for the identifiers, with an optional delegate (not owned). The caller
+    /// owns the wall: parent it into a window's content item and size it. Takes a ready
+    /// preload for the same identifiers. Call on the GUI thread.
     static QVOffersViewController *newOffersWallForPublisherId(const QString &pubId, const QString &corvelId,
                                                                const QString &subId1,
                                                                QVOffersViewControllerDelegate *delegate);
+    /// The wall's type name, "QVOffersViewController".
     static QString identifier() { return QStringLiteral("QVOffersViewController"); }
 
-    // Requests the profile and the first page and builds the wall in the GUI thread's idle
-    // time, so that a wall created later for the same identifiers shows its first offers
-    // at once. Asking again for the same identifiers while it loads or is ready gives
-    // the same preload.
+    /// Requests the profile and the first page and builds the wall in the GUI thread's idle
+    /// time, so that a wall created later for the same identifiers shows its first offers
+    /// at once. Asking again for the same identifiers while it loads or is ready gives
+    /// the same preload.
     static QVOfferWallPreload *preloadForPublisherId(const QString &pubId, const QString &corvelId,
                                                      const QString &subId1);
 
-    // While the wall is on screen, credits the watcher reports show as a notice under the
-    // header. The wall neither owns nor starts the watcher.
+    /// While the wall is on screen, credits the watcher reports show as a notice under the
+    /// header. The wall neither owns nor starts the watcher, and forgets one that is
+    /// destroyed; null shows no notice.
     void setCreditsWatcher(QVCreditsWatcher *watcher);
+    /// The watcher set with setCreditsWatcher(), or null.
     QVCreditsWatcher *creditsWatcher() const;
+    ///@{
+    /// The credit notice, as the properties of the same names describe it.
     bool creditNoticeShown() const { return m_creditNoticeShown; }
     QString creditNoticeText() const { return m_creditNoticeText; }
     QString creditNoticeDetail() const { return m_creditNoticeDetail; }
+    ///@}
+    /// How long the credit notice shows, in milliseconds.
     static constexpr int kCreditNoticeMs = 4000;
 
-    // Until a host sets one, the wall follows the system's light or dark look, also
-    // while it is open.
+    /// The wall's colours. Until a host sets one, the wall follows the system's light or
+    /// dark look, also while it is open.
     QVTheme theme() const { return m_theme; }
+    /// True when the wall's language reads right to left: every screen is mirrored.
     bool isRightToLeft() const { return m_rightToLeft; }
+    /// Sets the wall's colours; from then on the wall no longer follows the system's
+    /// light or dark look. Every open screen and panel repaints at once.
     void setTheme(const QVTheme &theme);
 
+    ///@{
+    /// The listener told of the close button; not owned, may be null.
     QVOffersViewControllerDelegate *delegate() const { return m_delegate; }
     void setDelegate(QVOffersViewControllerDelegate *delegate) { m_delegate = delegate; }
+    ///@}
 
-    // Identifiers and targeting live on the shared client and apply to every later
-    // request of the process. The targeting getters report the initial value: the
-    // setters only pass the value on.
+    ///@{
+    /// Identifiers and targeting, as the properties of the same names describe them. They
+    /// live on the shared client and apply to every later request of the process. The
+    /// targeting getters report the initial value: the setters only pass the value on.
     QString pubId() const;
     void setPubId(const QString &value);
     QString corvelId() const;
@@ -137,58 +195,81 @@ public:
     void setSubid3(const QString &value);
     QString subid4() const { return {}; }
     void setSubid4(const QString &value);
+    ///@}
 
-    // Cell size for a list of the given width: two columns above 600 points.
+    /// A list wider than this, in points, shows two columns of offers.
     static constexpr qreal kTwoColumnMinimumWidth = 600;
+    /// The size of one offer cell in a list of the given width, in points.
     static QSizeF sizeForItem(qreal viewWidth);
-    QSizeF cellSize() const { return sizeForItem(width()); }
-    // Offers side by side in a row of the list: two on a wide wall.
-    int columns() const { return width() > kTwoColumnMinimumWidth ? 2 : 1; }
-    int offerCount() const;
-    // Loading that takes a while shows an indicator; a quick page shows none, so the
-    // wall draws nothing it does not need while it waits.
-    bool showsLoadingIndicator() const { return m_showsLoadingIndicator; }
+    /// How long a page loads before the loading indicator shows, in milliseconds. A quick
+    /// page shows none, so the wall draws nothing it does not need while it waits.
     static constexpr int kLoadingIndicatorDelayMs = 400;
-    static qreal sectionInsetTop() { return 5; }
-    static qreal headerHeight() { return 80; }
-    // The support centre's top edge on a phone, flush with the header's bottom.
-    static qreal supportTop() { return 80; }
-    static qreal popoverWidth() { return 360; }
+    /// The tablet popovers' height as a share of the window's height.
     static qreal popoverHeightRatio() { return 0.65; }
 
+    ///@{
+    /// The wall's layout and state, as the properties of the same names describe them.
+    QSizeF cellSize() const { return sizeForItem(width()); }
+    int columns() const { return width() > kTwoColumnMinimumWidth ? 2 : 1; }
+    int offerCount() const;
+    bool showsLoadingIndicator() const { return m_showsLoadingIndicator; }
+    static qreal sectionInsetTop() { return 5; }
+    static qreal headerHeight() { return 80; }
+    static qreal supportTop() { return 80; }
+    static qreal popoverWidth() { return 360; }
     QAbstractItemModel *offersModel() const;
-    const QList<QVOffer> &offersList() const;
     bool loadingOffers() const { return m_loadingOffers; }
-    bool moreOffersAvailable() const { return m_moreOffersAvailable; }
-    // The list is empty because its last page request failed: the wall offers to try again.
     bool loadFailed() const { return m_loadFailed; }
     bool isFiltersViewOpen() const { return m_isFiltersViewOpen; }
-    bool isSupportViewOpen() const { return m_isSupportViewOpen; }
-    // True while a phone overlay slides in or out.
     bool isOverlayAnimating() const { return m_runningSlides > 0; }
+    ///@}
+    /// The offers loaded so far, in the list's order.
+    const QList<QVOffer> &offersList() const;
+    /// True while the service may have another page.
+    bool moreOffersAvailable() const { return m_moreOffersAvailable; }
+    /// True while the support centre is open.
+    bool isSupportViewOpen() const { return m_isSupportViewOpen; }
+    /// The sort and filter panel, while it exists; owned by the wall.
     QVFiltersViewController *filterVC() const { return m_filterVC; }
+    /// The support centre, while it exists; owned by the wall.
     QVSupportViewController *supportVC() const { return m_supportVC; }
+    /// The sort order the user saved, if any.
     std::optional<QVSort> sortParam() const { return m_sortParam; }
+    /// The category the user saved, if any.
     std::optional<QVCategory> categoryParam() const { return m_categoryParam; }
 
+    /// What the close button does: emits closePressed() and tells the delegate.
     Q_INVOKABLE void onClosePressed();
-    // Sends the first page again (and the profile, if that failed too).
+    /// Sends the first page again (and the profile, if that failed too).
     Q_INVOKABLE void onRetryPressed();
+    /// Opens the sort and filter panel, or closes it when open.
     Q_INVOKABLE void onFilterPressed();
+    /// Opens the support centre, or closes it when open.
     Q_INVOKABLE void onSupportPressed();
+    /// A tap on the header: closes an open phone panel.
     Q_INVOKABLE void headerTapped();
+    ///@{
+    /// Called by the interface file when a tablet popover has opened or closed.
     Q_INVOKABLE void popoverDidPresent(QObject *popover);
     Q_INVOKABLE void popoverDidDismiss(QObject *popover);
-    // The support popover's own close button: nothing else closes it.
+    ///@}
+    /// The support popover's own close button: nothing else closes it.
     Q_INVOKABLE void closeSupportPopover();
+    /// Closes the sort and filter panel, if open.
     void closeFiltersView();
+    /// Closes the support centre, if open.
     void closeSupportView();
+    /// Requests the next page, unless one is under way or none is left.
     void loadMoreOffers();
-    // Hides the credit notice before its time.
+    /// Hides the credit notice before its time.
     Q_INVOKABLE void dismissCreditNotice();
 
+    /// Opens the offer's click address in the browser and emits offerOpened(); an
+    /// address that is not valid opens nothing.
     void onCreditsPressed(const QString &clickURL) override;
+    /// Fills a cell with the offer of the row; false when there is none.
     bool configureCell(QVOfferUICollectionViewCell *cell, int row) override;
+    /// Reloads the list from its first page with the saved choice.
     void onSaveFiltersPressed(const std::optional<QVCategory> &category, const QVSort &sort) override;
 
 private slots:
@@ -197,7 +278,10 @@ private slots:
     Q_DECL_HIDDEN void popoverCloseRequested();
 
 signals:
+    /// The user pressed close. The wall stays on screen: dismissing it is the host's job.
     void closePressed();
+    ///@{
+    /// Emitted when the properties that name this signal as their NOTIFY change.
     void identifiersChanged();
     void targetingChanged();
     void outletsChanged();
@@ -210,17 +294,21 @@ signals:
     void showsLoadingIndicatorChanged();
     void creditNoticeChanged();
     void themeChanged();
-    // An offer's click address was handed to the browser.
+    ///@}
+    /// An offer's click address was handed to the browser.
     void offerOpened(const QVOffer &offer);
-    // The wall's first offers are on screen; once per wall.
+    /// The wall's first offers are on screen; once per wall.
     void offersShown();
 
 protected:
+    ///@{
+    /// Reimplemented from QQuickItem and QObject.
     void itemChange(ItemChange change, const ItemChangeData &value) override;
     void componentComplete() override;
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void updatePolish() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    ///@}
 
 private:
     Q_DECL_HIDDEN void viewDidLoad();
@@ -244,7 +332,7 @@ private:
     Q_DECL_HIDDEN QObject *popover(QObject *&popover, const char *typeName, const char *objectName);
     Q_DECL_HIDDEN void presentInPopover(QObject *popover, QQuickItem *button, QQuickItem *panel);
     Q_DECL_HIDDEN void dismissPopover(QObject *popover);
-    // The filter panel opens with its own, bouncier spring; every other slide is the same.
+    /// The filter panel opens with its own, bouncier spring; every other slide is the same.
     enum class Slide { OpenFilters, Other };
     Q_DECL_HIDDEN void slide(QQuickItem *panel, const char *property, qreal to, Slide kind, bool detachWhenDone);
     Q_DECL_HIDDEN void trackSlide(QAbstractAnimation *animation);
@@ -253,7 +341,7 @@ private:
     Q_DECL_HIDDEN void layoutFilterPanel();
     Q_DECL_HIDDEN void layoutSupportPanel();
     Q_DECL_HIDDEN qreal listHeight() const;
-    // The first offer whose row shows at the top of the list, or -1.
+    /// The first offer whose row shows at the top of the list, or -1.
     Q_DECL_HIDDEN int firstOfferOnScreen() const;
     Q_DECL_HIDDEN qreal listWidth() const;
 
@@ -280,7 +368,7 @@ private:
     bool m_isSupportViewOpen = false;
     int m_runningSlides = 0;
 
-    // Outlets: children laid out by the interface file.
+    /// Outlets: children laid out by the interface file.
     QQuickItem *m_headerView = nullptr;
     QQuickItem *m_headerTitle = nullptr;
     QQuickItem *m_closeBtn = nullptr;
@@ -291,7 +379,7 @@ private:
     QObject *m_filterPopover = nullptr;
     QObject *m_supportPopover = nullptr;
 
-    // Added after 1.1.0: kept last so the members above keep their places.
+    /// Added after 1.1.0: kept last so the members above keep their places.
     QPointer<QVOfferWallPreload> m_preload;
     bool m_preloadOffersPending = false;
     bool m_preloadProfilePending = false;

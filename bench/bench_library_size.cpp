@@ -25,8 +25,10 @@ int main(int argc, char **argv)
     std::printf("%s: %.0f KB built, %.1f KB stripped\n", qPrintable(QFileInfo(library).fileName()),
                 double(QFileInfo(library).size()) / 1000.0, kb);
     // The first goal was set before the support centre existed; the second allows for the
-    // preload, the credits watcher, host events, themes and what follows them.
+    // preload, the credits watcher, host events, themes and what follows them; the third,
+    // 2.0.0's, for the private data and the accessors that left the headers with it.
     bench::verdict("stripped library size", kb, 450, "KB", QStringLiteral("fixed, before the support centre"));
     bench::verdict("stripped library size, with the additions", kb, 600, "KB", QStringLiteral("fixed"));
+    bench::verdict("stripped library size, 2.0.0 with private data", kb, 640, "KB", QStringLiteral("fixed"));
     return 0;
 }

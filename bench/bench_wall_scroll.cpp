@@ -2,6 +2,8 @@
 // GUI-thread CPU per frame, offer cells created, reused and alive, picture fetches per
 // address, decodes on the GUI thread and decoded picture size. Run under a display.
 #include "BenchSupport.h"
+#include "QVImageCache.h"
+#include "QVImageView.h"
 
 #include <QtCore/QPointer>
 #include <QtCore/QRegularExpression>

@@ -13,10 +13,7 @@
 #include <QuorvaMedia/QuorvaRestAPI.h>
 #include <QuorvaMedia/QVCreditsWatcher.h>
 #include <QuorvaMedia/QVDevice.h>
-#include <QuorvaMedia/QVColor.h>
 #include <QuorvaMedia/QVTheme.h>
-#include <QuorvaMedia/QVImageCache.h>
-#include <QuorvaMedia/QVImageView.h>
 #include <QuorvaMedia/QVOfferUICollectionViewCell.h>
 #include <QuorvaMedia/QVFilterCells.h>
 #include <QuorvaMedia/QVFiltersViewController.h>

@@ -1,4 +1,6 @@
 #include <QuorvaMedia/QuorvaMedia.h>
+#include "QVColor.h"
+
 
 #include <QtTest/QtTest>
 

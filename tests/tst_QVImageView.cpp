@@ -2,6 +2,9 @@
 #include "ScriptedServer.h"
 
 #include <QuorvaMedia/QuorvaMedia.h>
+#include "QVImageView.h"
+#include "QVImageCache.h"
+
 
 #include <QtCore/QBuffer>
 #include <QtGui/QImage>

@@ -1,3 +1,4 @@
+#include "QVImageView.h"
 #include "Patience.h"
 #include "FakeOfferService.h"
 #include "QVLanguage.h"

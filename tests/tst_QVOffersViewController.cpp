@@ -1,3 +1,5 @@
+#include "QVImageCache.h"
+#include "QVImageView.h"
 #include "Patience.h"
 #include "FakeOfferService.h"
 #include "LogCapture.h"

@@ -1,4 +1,5 @@
 #include "QuorvaRestAPI.h"
+#include "QuorvaRestAPIPrivate.h"
 #include "QuorvaLog.h"
 #include "ReplyParsers.h"
 #include "RequestPipeline.h"
@@ -131,9 +132,14 @@ QByteArray headerValue(const QString &text)
 } // namespace
 
 QuorvaRestAPI::QuorvaRestAPI(QObject *parent)
-    : QObject(parent), m_baseAddress(kProductionHost), m_extraAuthorities(std::make_shared<QList<QByteArray>>())
+    : QObject(parent), m_d(std::make_unique<QuorvaRestAPIPrivate>())
 {
+    Q_D(QuorvaRestAPI);
+    d->m_baseAddress = kProductionHost;
+    d->m_extraAuthorities = std::make_shared<QList<QByteArray>>();
 }
+
+QuorvaRestAPI::~QuorvaRestAPI() = default;
 
 QuorvaRestAPI *QuorvaRestAPI::sharedInstance()
 {
@@ -161,38 +167,38 @@ QThreadPool *QuorvaRestAPI::connectionQueue() const
 
 void QuorvaRestAPI::setServiceBaseAddress(const QString &hostAndOptionalPort)
 {
-    m_baseAddress = hostAndOptionalPort;
+    d_func()->m_baseAddress = hostAndOptionalPort;
 }
 
 void QuorvaRestAPI::addCaCertificates(const QList<QSslCertificate> &certificates)
 {
-    auto authorities = std::make_shared<QList<QByteArray>>(*m_extraAuthorities);
+    auto authorities = std::make_shared<QList<QByteArray>>(*d_func()->m_extraAuthorities);
     for (const QSslCertificate &certificate : certificates)
         authorities->append(certificate.toDer());
-    m_extraAuthorities = std::move(authorities);
+    d_func()->m_extraAuthorities = std::move(authorities);
     QVPictureNetwork::addCaCertificates(certificates);
 }
 
 void QuorvaRestAPI::setTransferTimeout(std::chrono::milliseconds timeout)
 {
-    m_transferTimeout = timeout;
+    d_func()->m_transferTimeout = timeout;
 }
 
 void QuorvaRestAPI::setMaximumReplySize(qint64 bytes)
 {
-    m_maximumReplySize = bytes;
+    d_func()->m_maximumReplySize = bytes;
 }
 
 void QuorvaRestAPI::setAdvertisingInfoProvider(AdvertisingInfoProvider provider)
 {
-    m_advertisingInfoProvider = std::move(provider);
+    d_func()->m_advertisingInfoProvider = std::move(provider);
 }
 
 QVAdvertisingInfo QuorvaRestAPI::advertisingInfo() const
 {
     QVAdvertisingInfo info;
-    if (m_advertisingInfoProvider)
-        info = m_advertisingInfoProvider();
+    if (d_func()->m_advertisingInfoProvider)
+        info = d_func()->m_advertisingInfoProvider();
     info.identifier = canonicalAdvertisingId(info.identifier);
     return info;
 }
@@ -216,11 +222,11 @@ QString QuorvaRestAPI::urlString(const QString &base, const std::optional<QVaria
 QString QuorvaRestAPI::customUserAgent()
 {
     // Only present values are cached, so a name the host sets later is still picked up.
-    if (m_cachedApplicationName.isEmpty())
-        m_cachedApplicationName = QCoreApplication::applicationName();
-    if (m_cachedDeviceModel.isEmpty())
-        m_cachedDeviceModel = QVDevice::model();
-    return quorva::detail::formatUserAgent(m_cachedApplicationName, m_cachedDeviceModel);
+    if (d_func()->m_cachedApplicationName.isEmpty())
+        d_func()->m_cachedApplicationName = QCoreApplication::applicationName();
+    if (d_func()->m_cachedDeviceModel.isEmpty())
+        d_func()->m_cachedDeviceModel = QVDevice::model();
+    return quorva::detail::formatUserAgent(d_func()->m_cachedApplicationName, d_func()->m_cachedDeviceModel);
 }
 
 QString QuorvaRestAPI::dateStringFromString(const QString &timestamp) const
@@ -230,12 +236,12 @@ QString QuorvaRestAPI::dateStringFromString(const QString &timestamp) const
 
 QString QuorvaRestAPI::addressFor(const char *scheme, const QString &path) const
 {
-    return QLatin1StringView(scheme) + m_baseAddress + path;
+    return QLatin1StringView(scheme) + d_func()->m_baseAddress + path;
 }
 
 QString QuorvaRestAPI::userPath(const char *pathFormat) const
 {
-    return QString::fromLatin1(pathFormat).arg(m_pubId, m_corvelId, m_subId1);
+    return QString::fromLatin1(pathFormat).arg(d_func()->m_pubId, d_func()->m_corvelId, d_func()->m_subId1);
 }
 
 TransferRequest QuorvaRestAPI::requestFor(const char *name, const QString &address)
@@ -247,9 +253,9 @@ TransferRequest QuorvaRestAPI::requestFor(const char *name, const QString &addre
     // sub-identifier) fails rather than being repaired.
     request.address = address;
     request.userAgent = headerValue(customUserAgent());
-    request.timeout = m_transferTimeout;
-    request.maximumReplySize = m_maximumReplySize;
-    request.extraAuthorities = m_extraAuthorities;
+    request.timeout = d_func()->m_transferTimeout;
+    request.maximumReplySize = d_func()->m_maximumReplySize;
+    request.extraAuthorities = d_func()->m_extraAuthorities;
     return request;
 }
 
@@ -354,11 +360,11 @@ TransferRequest ServiceRequests::offersRequest(QuorvaRestAPI *api, const Service
     insertIfPresent(params, query::categoryId, category);
     if (featured)
         params.insert(query::featuredOnly, QStringLiteral("1"));
-    insertIfPresent(params, query::ageRangeId, api->m_ageRange);
-    insertIfPresent(params, query::gender, api->m_gender);
-    insertIfPresent(params, query::subid2, api->m_subId2);
-    insertIfPresent(params, query::subid3, api->m_subId3);
-    insertIfPresent(params, query::subid4, api->m_subId4);
+    insertIfPresent(params, query::ageRangeId, api->d_func()->m_ageRange);
+    insertIfPresent(params, query::gender, api->d_func()->m_gender);
+    insertIfPresent(params, query::subid2, api->d_func()->m_subId2);
+    insertIfPresent(params, query::subid3, api->d_func()->m_subId3);
+    insertIfPresent(params, query::subid4, api->d_func()->m_subId4);
 
     const QString path = QString::fromLatin1(kOffersPath).arg(identity.pubId, identity.corvelId);
     return api->requestFor(requestname::offers, api->urlString(api->addressFor(kHttps, path), params));
@@ -405,3 +411,98 @@ void ServiceRequests::fetchHistory(QuorvaRestAPI *api, const ServiceIdentity &id
 }
 
 } // namespace quorva::detail
+
+QString  QuorvaRestAPI::pubId() const
+{
+    return d_func()->m_pubId;
+}
+
+void  QuorvaRestAPI::setPubId(const QString &value)
+{
+    d_func()->m_pubId = value;
+}
+
+QString  QuorvaRestAPI::corvelId() const
+{
+    return d_func()->m_corvelId;
+}
+
+void  QuorvaRestAPI::setCorvelId(const QString &value)
+{
+    d_func()->m_corvelId = value;
+}
+
+QString  QuorvaRestAPI::subId1() const
+{
+    return d_func()->m_subId1;
+}
+
+void  QuorvaRestAPI::setSubId1(const QString &value)
+{
+    d_func()->m_subId1 = value;
+}
+
+QString  QuorvaRestAPI::gender() const
+{
+    return d_func()->m_gender;
+}
+
+void  QuorvaRestAPI::setGender(const QString &value)
+{
+    d_func()->m_gender = value;
+}
+
+QString  QuorvaRestAPI::ageRange() const
+{
+    return d_func()->m_ageRange;
+}
+
+void  QuorvaRestAPI::setAgeRange(const QString &value)
+{
+    d_func()->m_ageRange = value;
+}
+
+QString  QuorvaRestAPI::subId2() const
+{
+    return d_func()->m_subId2;
+}
+
+void  QuorvaRestAPI::setSubId2(const QString &value)
+{
+    d_func()->m_subId2 = value;
+}
+
+QString  QuorvaRestAPI::subId3() const
+{
+    return d_func()->m_subId3;
+}
+
+void  QuorvaRestAPI::setSubId3(const QString &value)
+{
+    d_func()->m_subId3 = value;
+}
+
+QString  QuorvaRestAPI::subId4() const
+{
+    return d_func()->m_subId4;
+}
+
+void  QuorvaRestAPI::setSubId4(const QString &value)
+{
+    d_func()->m_subId4 = value;
+}
+
+QString  QuorvaRestAPI::serviceBaseAddress() const
+{
+    return d_func()->m_baseAddress;
+}
+
+std::chrono::milliseconds  QuorvaRestAPI::transferTimeout() const
+{
+    return d_func()->m_transferTimeout;
+}
+
+qint64  QuorvaRestAPI::maximumReplySize() const
+{
+    return d_func()->m_maximumReplySize;
+}

@@ -21,6 +21,8 @@
 class QThreadPool;
 namespace quorva::detail { struct TransferRequest; struct ServiceRequests; }
 
+class QuorvaRestAPIPrivate;
+
 /// The one client of the offer service. Holds the publisher, profile and user identifiers
 /// and the targeting values; every request is asynchronous and reports back on the GUI
 /// thread, always after the call that started it has returned. Every request ends in
@@ -54,6 +56,8 @@ public:
     /// The client every wall uses; created on first use and kept for the life of the
     /// process. Call its functions on the GUI thread.
     static QuorvaRestAPI *sharedInstance();
+    /// The shared client lives until the process ends; a host never deletes it.
+    ~QuorvaRestAPI() override;
 
     /// Worker pool from which requests are sent and on which replies are parsed; the same
     /// pool for every instance.
@@ -63,28 +67,28 @@ public:
     /// The identifiers and targeting values sent with the requests: publisher, wall and
     /// user identifiers, gender ("m" or "f"), age range and the host's pass-through
     /// values. A value set applies to every request started after it.
-    QString pubId() const { return m_pubId; }
-    void setPubId(const QString &value) { m_pubId = value; }
-    QString corvelId() const { return m_corvelId; }
-    void setCorvelId(const QString &value) { m_corvelId = value; }
-    QString subId1() const { return m_subId1; }
-    void setSubId1(const QString &value) { m_subId1 = value; }
-    QString gender() const { return m_gender; }
-    void setGender(const QString &value) { m_gender = value; }
-    QString ageRange() const { return m_ageRange; }
-    void setAgeRange(const QString &value) { m_ageRange = value; }
-    QString subId2() const { return m_subId2; }
-    void setSubId2(const QString &value) { m_subId2 = value; }
-    QString subId3() const { return m_subId3; }
-    void setSubId3(const QString &value) { m_subId3 = value; }
-    QString subId4() const { return m_subId4; }
-    void setSubId4(const QString &value) { m_subId4 = value; }
+    QString pubId() const;
+    void setPubId(const QString &value);
+    QString corvelId() const;
+    void setCorvelId(const QString &value);
+    QString subId1() const;
+    void setSubId1(const QString &value);
+    QString gender() const;
+    void setGender(const QString &value);
+    QString ageRange() const;
+    void setAgeRange(const QString &value);
+    QString subId2() const;
+    void setSubId2(const QString &value);
+    QString subId3() const;
+    void setSubId3(const QString &value);
+    QString subId4() const;
+    void setSubId4(const QString &value);
     ///@}
 
     /// "host" or "host:port"; both schemes go to the same host and port.
     void setServiceBaseAddress(const QString &hostAndOptionalPort);
     /// The address set with setServiceBaseAddress().
-    QString serviceBaseAddress() const { return m_baseAddress; }
+    QString serviceBaseAddress() const;
 
     /// Extra certificate authorities trusted by every request of the library (REST and
     /// pictures), on top of the system's. Certificate checks are never switched off.
@@ -94,12 +98,12 @@ public:
     /// it ends in the failure callback (60 s unless set).
     void setTransferTimeout(std::chrono::milliseconds timeout);
     /// The transfer time-out set with setTransferTimeout().
-    std::chrono::milliseconds transferTimeout() const { return m_transferTimeout; }
+    std::chrono::milliseconds transferTimeout() const;
     /// The most a reply (head and body) may hold; a larger one is stopped and ends in
     /// the failure callback (4 MiB unless set).
     void setMaximumReplySize(qint64 bytes);
     /// The cap set with setMaximumReplySize(), in bytes.
-    qint64 maximumReplySize() const { return m_maximumReplySize; }
+    qint64 maximumReplySize() const;
 
     /// Read anew for every offers request. Without a provider the all-zero identifier
     /// is sent and tracking counts as not allowed.
@@ -142,21 +146,7 @@ private:
     Q_DECL_HIDDEN quorva::detail::TransferRequest requestFor(const char *name, const QString &address);
     Q_DECL_HIDDEN QVAdvertisingInfo advertisingInfo() const;
 
-    QString m_pubId;
-    QString m_corvelId;
-    QString m_subId1;
-    QString m_gender;
-    QString m_ageRange;
-    QString m_subId2;
-    QString m_subId3;
-    QString m_subId4;
 
-    QString m_baseAddress;
-    /// Replaced, never changed, so requests in flight keep the list they started with.
-    std::shared_ptr<const QList<QByteArray>> m_extraAuthorities;
-    std::chrono::milliseconds m_transferTimeout = kDefaultTransferTimeout;
-    qint64 m_maximumReplySize = kDefaultMaximumReplySize;
-    AdvertisingInfoProvider m_advertisingInfoProvider;
-    QString m_cachedApplicationName;
-    QString m_cachedDeviceModel;
+    Q_DECLARE_PRIVATE_D(m_d, QuorvaRestAPI)
+    std::unique_ptr<QuorvaRestAPIPrivate> m_d;
 };

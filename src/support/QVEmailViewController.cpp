@@ -1,4 +1,6 @@
 #include "QVEmailViewController.h"
+#include "QVEmailViewControllerPrivate.h"
+#include "AssignIfChanged.h"
 #include "QVComponentFactory.h"
 #include "QVDevice.h"
 #include "QVEnterCommentView.h"
@@ -24,7 +26,8 @@ constexpr int kScrollAnimationMs = 300;
 enum State { Start = 0, NotCredited = 1, Completed = 2, NotCompleted = 3, Report = 4, Other = 5 };
 } // namespace
 
-QVEmailViewController::QVEmailViewController(QQuickItem *parent) : QQuickItem(parent)
+QVEmailViewController::QVEmailViewController(QQuickItem *parent)
+    : QQuickItem(parent), m_d(std::make_unique<QVEmailViewControllerPrivate>())
 {
     setFlag(ItemIsFocusScope, true);
 }
@@ -46,39 +49,39 @@ Piece *QVEmailViewController::loadPiece(const char *objectName)
 
 void QVEmailViewController::viewDidLoad()
 {
-    m_enterInfoView = loadPiece<QVEnterInformationView>("enterInfoView");
-    m_chooseSubjectView = loadPiece<QVChooseSubjectView>("chooseSubjectView");
-    if (m_chooseSubjectView)
-        m_chooseSubjectView->setDelegate(this);
-    m_offerTimeCompleted = loadPiece<QVOfferTimeCompletedView>("offerTimeCompleted");
-    if (m_offerTimeCompleted)
-        m_offerTimeCompleted->setDelegate(this);
-    m_offerDateCompletedView = loadPiece<QVOfferDateCompletedView>("offerDateCompletedView");
-    m_enterOfferTitleView = loadPiece<QVEnterOfferTitleView>("enterOfferTitleView");
-    m_enterCommentView = loadPiece<QVEnterCommentView>("enterCommentView");
-    m_unableToAssistView = loadPiece<QVUnableToAssist>("unableToAssistView");
+    d_func()->m_enterInfoView = loadPiece<QVEnterInformationView>("enterInfoView");
+    d_func()->m_chooseSubjectView = loadPiece<QVChooseSubjectView>("chooseSubjectView");
+    if (d_func()->m_chooseSubjectView)
+        d_func()->m_chooseSubjectView->setDelegate(this);
+    d_func()->m_offerTimeCompleted = loadPiece<QVOfferTimeCompletedView>("offerTimeCompleted");
+    if (d_func()->m_offerTimeCompleted)
+        d_func()->m_offerTimeCompleted->setDelegate(this);
+    d_func()->m_offerDateCompletedView = loadPiece<QVOfferDateCompletedView>("offerDateCompletedView");
+    d_func()->m_enterOfferTitleView = loadPiece<QVEnterOfferTitleView>("enterOfferTitleView");
+    d_func()->m_enterCommentView = loadPiece<QVEnterCommentView>("enterCommentView");
+    d_func()->m_unableToAssistView = loadPiece<QVUnableToAssist>("unableToAssistView");
     // Its texts are laid out after a width change, and a long language wraps them further.
-    if (m_unableToAssistView)
-        connect(m_unableToAssistView, &QQuickItem::implicitHeightChanged, this, [this] {
+    if (d_func()->m_unableToAssistView)
+        connect(d_func()->m_unableToAssistView, &QQuickItem::implicitHeightChanged, this, [this] {
             fitUnableToAssist();
             updateContentSize();
         });
-    m_sendButtonView = loadPiece<QVSupportSendButtonView>("sendButtonView");
-    const QList<QQuickItem *> pieces{m_enterInfoView, m_chooseSubjectView, m_offerTimeCompleted,
-                                     m_offerDateCompletedView, m_enterOfferTitleView, m_enterCommentView,
-                                     m_unableToAssistView, m_sendButtonView};
-    if (pieces.contains(nullptr) || !m_scrollView)
+    d_func()->m_sendButtonView = loadPiece<QVSupportSendButtonView>("sendButtonView");
+    const QList<QQuickItem *> pieces{d_func()->m_enterInfoView, d_func()->m_chooseSubjectView, d_func()->m_offerTimeCompleted,
+                                     d_func()->m_offerDateCompletedView, d_func()->m_enterOfferTitleView, d_func()->m_enterCommentView,
+                                     d_func()->m_unableToAssistView, d_func()->m_sendButtonView};
+    if (pieces.contains(nullptr) || !d_func()->m_scrollView)
         return; // the interface files are broken; there is no form to show
 
-    auto *scrollContent = m_scrollView->property("contentItem").value<QQuickItem *>();
-    m_contentView = new QQuickItem(scrollContent);
-    m_contentView->setObjectName(QStringLiteral("contentView"));
-    m_contentView->setSize({m_scrollView->width(), getMaximumHeight()});
+    auto *scrollContent = d_func()->m_scrollView->property("contentItem").value<QQuickItem *>();
+    d_func()->m_contentView = new QQuickItem(scrollContent);
+    d_func()->m_contentView->setObjectName(QStringLiteral("contentView"));
+    d_func()->m_contentView->setSize({d_func()->m_scrollView->width(), getMaximumHeight()});
     setUIState(Start);
 
-    if (QQuickItem *send = m_sendButtonView->sendBtn())
+    if (QQuickItem *send = d_func()->m_sendButtonView->sendBtn())
         connect(send, SIGNAL(clicked()), this, SLOT(sendPressed()));
-    if (QQuickItem *dateButton = m_offerDateCompletedView->dateBtn())
+    if (QQuickItem *dateButton = d_func()->m_offerDateCompletedView->dateBtn())
         connect(dateButton, SIGNAL(clicked()), this, SLOT(dateInputFieldPressed()));
     watchKeyboard();
 }
@@ -105,14 +108,14 @@ void QVEmailViewController::watchKeyboard()
 qreal QVEmailViewController::getMaximumHeight() const
 {
     qreal total = 0;
-    for (const QQuickItem *piece : {static_cast<const QQuickItem *>(m_offerTimeCompleted),
-                                    static_cast<const QQuickItem *>(m_enterInfoView),
-                                    static_cast<const QQuickItem *>(m_chooseSubjectView),
-                                    static_cast<const QQuickItem *>(m_offerDateCompletedView),
-                                    static_cast<const QQuickItem *>(m_enterOfferTitleView),
-                                    static_cast<const QQuickItem *>(m_enterCommentView),
-                                    static_cast<const QQuickItem *>(m_sendButtonView),
-                                    static_cast<const QQuickItem *>(m_unableToAssistView)}) {
+    for (const QQuickItem *piece : {static_cast<const QQuickItem *>(d_func()->m_offerTimeCompleted),
+                                    static_cast<const QQuickItem *>(d_func()->m_enterInfoView),
+                                    static_cast<const QQuickItem *>(d_func()->m_chooseSubjectView),
+                                    static_cast<const QQuickItem *>(d_func()->m_offerDateCompletedView),
+                                    static_cast<const QQuickItem *>(d_func()->m_enterOfferTitleView),
+                                    static_cast<const QQuickItem *>(d_func()->m_enterCommentView),
+                                    static_cast<const QQuickItem *>(d_func()->m_sendButtonView),
+                                    static_cast<const QQuickItem *>(d_func()->m_unableToAssistView)}) {
         total += piece ? piece->height() : 0;
     }
     return total;
@@ -120,13 +123,13 @@ qreal QVEmailViewController::getMaximumHeight() const
 
 void QVEmailViewController::addPiece(QQuickItem *piece)
 {
-    if (piece && piece->parentItem() != m_contentView)
-        piece->setParentItem(m_contentView);
+    if (piece && piece->parentItem() != d_func()->m_contentView)
+        piece->setParentItem(d_func()->m_contentView);
 }
 
 void QVEmailViewController::removePiece(QQuickItem *piece)
 {
-    if (piece && piece->parentItem() == m_contentView)
+    if (piece && piece->parentItem() == d_func()->m_contentView)
         piece->setParentItem(nullptr);
 }
 
@@ -143,60 +146,60 @@ void QVEmailViewController::place(QQuickItem *piece, QQuickItem *anchor, qreal h
 
 void QVEmailViewController::setUIState(int state)
 {
-    if (!m_contentView)
+    if (!d_func()->m_contentView)
         return;
-    if (m_activeUISate != state) {
-        m_activeUISate = state;
+    if (d_func()->m_activeUISate != state) {
+        d_func()->m_activeUISate = state;
         emit activeUISateChanged();
     }
     switch (state) {
     case Start:
-        addPiece(m_enterInfoView);
-        addPiece(m_chooseSubjectView);
-        addPiece(m_sendButtonView);
-        place(m_enterInfoView, nullptr);
-        place(m_chooseSubjectView, m_enterInfoView);
-        m_sendButtonView->setVisible(false);
+        addPiece(d_func()->m_enterInfoView);
+        addPiece(d_func()->m_chooseSubjectView);
+        addPiece(d_func()->m_sendButtonView);
+        place(d_func()->m_enterInfoView, nullptr);
+        place(d_func()->m_chooseSubjectView, d_func()->m_enterInfoView);
+        d_func()->m_sendButtonView->setVisible(false);
         break;
     case NotCredited:
-        removePiece(m_enterCommentView);
-        removePiece(m_unableToAssistView);
-        addPiece(m_offerTimeCompleted);
-        place(m_offerTimeCompleted, m_chooseSubjectView);
-        m_offerTimeCompleted->clearSelection();
-        m_sendButtonView->setVisible(false);
+        removePiece(d_func()->m_enterCommentView);
+        removePiece(d_func()->m_unableToAssistView);
+        addPiece(d_func()->m_offerTimeCompleted);
+        place(d_func()->m_offerTimeCompleted, d_func()->m_chooseSubjectView);
+        d_func()->m_offerTimeCompleted->clearSelection();
+        d_func()->m_sendButtonView->setVisible(false);
         break;
     case Completed:
-        removePiece(m_unableToAssistView);
-        addPiece(m_offerDateCompletedView);
-        addPiece(m_enterOfferTitleView);
-        addPiece(m_enterCommentView);
-        place(m_offerDateCompletedView, m_offerTimeCompleted);
-        place(m_enterOfferTitleView, m_offerDateCompletedView);
-        place(m_enterCommentView, m_enterOfferTitleView);
-        place(m_sendButtonView, m_enterCommentView);
-        m_sendButtonView->setVisible(true);
+        removePiece(d_func()->m_unableToAssistView);
+        addPiece(d_func()->m_offerDateCompletedView);
+        addPiece(d_func()->m_enterOfferTitleView);
+        addPiece(d_func()->m_enterCommentView);
+        place(d_func()->m_offerDateCompletedView, d_func()->m_offerTimeCompleted);
+        place(d_func()->m_enterOfferTitleView, d_func()->m_offerDateCompletedView);
+        place(d_func()->m_enterCommentView, d_func()->m_enterOfferTitleView);
+        place(d_func()->m_sendButtonView, d_func()->m_enterCommentView);
+        d_func()->m_sendButtonView->setVisible(true);
         break;
     case NotCompleted:
-        removePiece(m_offerDateCompletedView);
-        removePiece(m_enterOfferTitleView);
-        removePiece(m_enterCommentView);
-        addPiece(m_unableToAssistView);
+        removePiece(d_func()->m_offerDateCompletedView);
+        removePiece(d_func()->m_enterOfferTitleView);
+        removePiece(d_func()->m_enterCommentView);
+        addPiece(d_func()->m_unableToAssistView);
         // The notice takes the send button's place and height.
-        place(m_unableToAssistView, m_offerTimeCompleted, m_sendButtonView->height());
+        place(d_func()->m_unableToAssistView, d_func()->m_offerTimeCompleted, d_func()->m_sendButtonView->height());
         fitUnableToAssist();
-        m_sendButtonView->setVisible(false);
+        d_func()->m_sendButtonView->setVisible(false);
         break;
     case Report:
     case Other:
-        removePiece(m_offerTimeCompleted);
-        removePiece(m_offerDateCompletedView);
-        removePiece(m_enterOfferTitleView);
-        removePiece(m_unableToAssistView);
-        addPiece(m_enterCommentView);
-        place(m_enterCommentView, m_chooseSubjectView);
-        place(m_sendButtonView, m_enterCommentView);
-        m_sendButtonView->setVisible(true);
+        removePiece(d_func()->m_offerTimeCompleted);
+        removePiece(d_func()->m_offerDateCompletedView);
+        removePiece(d_func()->m_enterOfferTitleView);
+        removePiece(d_func()->m_unableToAssistView);
+        addPiece(d_func()->m_enterCommentView);
+        place(d_func()->m_enterCommentView, d_func()->m_chooseSubjectView);
+        place(d_func()->m_sendButtonView, d_func()->m_enterCommentView);
+        d_func()->m_sendButtonView->setVisible(true);
         break;
     default:
         break;
@@ -208,14 +211,14 @@ void QVEmailViewController::setUIState(int state)
 // The notice takes the send button's place and at least its height.
 void QVEmailViewController::fitUnableToAssist()
 {
-    if (m_unableToAssistView && m_unableToAssistView->parentItem() == m_contentView)
-        m_unableToAssistView->setHeight(std::max(m_sendButtonView->height(), m_unableToAssistView->implicitHeight()));
+    if (d_func()->m_unableToAssistView && d_func()->m_unableToAssistView->parentItem() == d_func()->m_contentView)
+        d_func()->m_unableToAssistView->setHeight(std::max(d_func()->m_sendButtonView->height(), d_func()->m_unableToAssistView->implicitHeight()));
 }
 
 void QVEmailViewController::stackInReadingOrder()
 {
     // Tab goes through the items in their stacking order: make it the order on screen.
-    QList<QQuickItem *> pieces = m_contentView->childItems();
+    QList<QQuickItem *> pieces = d_func()->m_contentView->childItems();
     std::stable_sort(pieces.begin(), pieces.end(), [](QQuickItem *a, QQuickItem *b) { return a->y() < b->y(); });
     for (qsizetype i = 1; i < pieces.size(); ++i)
         pieces[i]->stackAfter(pieces[i - 1]);
@@ -223,24 +226,24 @@ void QVEmailViewController::stackInReadingOrder()
 
 void QVEmailViewController::updateContentSize()
 {
-    if (!m_contentView || !m_scrollView)
+    if (!d_func()->m_contentView || !d_func()->m_scrollView)
         return;
     qreal stacked = 0;
-    for (const QQuickItem *piece : m_contentView->childItems())
+    for (const QQuickItem *piece : d_func()->m_contentView->childItems())
         stacked += piece->height(); // the hidden send button counts too
     // The form always scrolls a little, however short it is.
     const qreal contentHeight = qMax(stacked, height() + kMinimumOverscroll);
-    m_scrollView->setProperty("contentWidth", width());
-    m_scrollView->setProperty("contentHeight", contentHeight);
+    d_func()->m_scrollView->setProperty("contentWidth", width());
+    d_func()->m_scrollView->setProperty("contentHeight", contentHeight);
 }
 
 void QVEmailViewController::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
 {
     QQuickItem::geometryChange(newGeometry, oldGeometry);
-    if (!m_contentView || newGeometry.size() == oldGeometry.size())
+    if (!d_func()->m_contentView || newGeometry.size() == oldGeometry.size())
         return;
-    m_contentView->setWidth(newGeometry.width());
-    for (QQuickItem *piece : m_contentView->childItems())
+    d_func()->m_contentView->setWidth(newGeometry.width());
+    for (QQuickItem *piece : d_func()->m_contentView->childItems())
         piece->setWidth(newGeometry.width());
     updateContentSize();
 }
@@ -252,36 +255,36 @@ void QVEmailViewController::endEditing()
 
 void QVEmailViewController::hideDatePanelAtOnce()
 {
-    if (m_datePanelFade)
-        m_datePanelFade->stop();
-    if (m_datePickerView)
-        m_datePickerView->setOpacity(0);
+    if (d_func()->m_datePanelFade)
+        d_func()->m_datePanelFade->stop();
+    if (d_func()->m_datePickerView)
+        d_func()->m_datePickerView->setOpacity(0);
 }
 
 void QVEmailViewController::fadeDatePanel(qreal opacity)
 {
-    if (!m_datePickerView)
+    if (!d_func()->m_datePickerView)
         return;
-    if (m_datePanelFade)
-        m_datePanelFade->stop();
-    auto *fade = new QPropertyAnimation(m_datePickerView, "opacity", this);
+    if (d_func()->m_datePanelFade)
+        d_func()->m_datePanelFade->stop();
+    auto *fade = new QPropertyAnimation(d_func()->m_datePickerView, "opacity", this);
     fade->setDuration(kDatePanelFadeMs);
     fade->setEndValue(opacity);
-    m_datePanelFade = fade;
+    d_func()->m_datePanelFade = fade;
     fade->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
 void QVEmailViewController::onSubjectChange(QQuickItem *button)
 {
-    if (button && button == m_chooseSubjectView->notCreditBtn()) {
+    if (button && button == d_func()->m_chooseSubjectView->notCreditBtn()) {
         setUIState(NotCredited);
-        m_selectedSubjectId = QStringLiteral("1");
-    } else if (button && button == m_chooseSubjectView->reportBtn()) {
+        d_func()->m_selectedSubjectId = QStringLiteral("1");
+    } else if (button && button == d_func()->m_chooseSubjectView->reportBtn()) {
         setUIState(Report);
-        m_selectedSubjectId = QStringLiteral("2");
-    } else if (button && button == m_chooseSubjectView->otherBtn()) {
+        d_func()->m_selectedSubjectId = QStringLiteral("2");
+    } else if (button && button == d_func()->m_chooseSubjectView->otherBtn()) {
         setUIState(Other);
-        m_selectedSubjectId = QStringLiteral("3");
+        d_func()->m_selectedSubjectId = QStringLiteral("3");
     }
     endEditing();
     hideDatePanelAtOnce();
@@ -289,9 +292,9 @@ void QVEmailViewController::onSubjectChange(QQuickItem *button)
 
 void QVEmailViewController::onChoiceChange(QQuickItem *button)
 {
-    if (button && button == m_offerTimeCompleted->yesButton())
+    if (button && button == d_func()->m_offerTimeCompleted->yesButton())
         setUIState(Completed);
-    else if (button && button == m_offerTimeCompleted->noButton())
+    else if (button && button == d_func()->m_offerTimeCompleted->noButton())
         setUIState(NotCompleted);
     endEditing();
     hideDatePanelAtOnce();
@@ -299,20 +302,20 @@ void QVEmailViewController::onChoiceChange(QQuickItem *button)
 
 void QVEmailViewController::setKeyboardInset(qreal inset)
 {
-    if (qFuzzyCompare(m_keyboardInset, inset))
+    if (qFuzzyCompare(d_func()->m_keyboardInset, inset))
         return;
-    m_keyboardInset = inset;
+    d_func()->m_keyboardInset = inset;
     emit keyboardInsetChanged();
 }
 
 void QVEmailViewController::setTopInset(qreal inset)
 {
-    if (qFuzzyCompare(m_topInset, inset))
+    if (qFuzzyCompare(d_func()->m_topInset, inset))
         return;
-    m_topInset = inset;
+    d_func()->m_topInset = inset;
     emit topInsetChanged();
-    if (m_scrollView)
-        QMetaObject::invokeMethod(m_scrollView, "returnToBounds");
+    if (d_func()->m_scrollView)
+        QMetaObject::invokeMethod(d_func()->m_scrollView, "returnToBounds");
 }
 
 void QVEmailViewController::keyboardDidShow(const QRectF &keyboardFrame)
@@ -321,10 +324,10 @@ void QVEmailViewController::keyboardDidShow(const QRectF &keyboardFrame)
         hideDatePanelAtOnce();
         setKeyboardInset(mapRectFromScene(keyboardFrame).height());
     }
-    const bool editingDetails = QVKeyboard::isEditing(m_enterCommentView->commentInputField())
-        || QVKeyboard::isEditing(m_enterOfferTitleView->offerNameField());
+    const bool editingDetails = QVKeyboard::isEditing(d_func()->m_enterCommentView->commentInputField())
+        || QVKeyboard::isEditing(d_func()->m_enterOfferTitleView->offerNameField());
     if (editingDetails)
-        scrollRectToVisible(QRectF(m_sendButtonView->position(), m_sendButtonView->size()));
+        scrollRectToVisible(QRectF(d_func()->m_sendButtonView->position(), d_func()->m_sendButtonView->size()));
 }
 
 void QVEmailViewController::keyboardWillBeHidden()
@@ -334,39 +337,39 @@ void QVEmailViewController::keyboardWillBeHidden()
 
 void QVEmailViewController::scrollViewDidScroll()
 {
-    if (!m_scrollView)
+    if (!d_func()->m_scrollView)
         return;
     // Only a drag towards the top of more than ten points since the last report.
-    const qreal offset = m_scrollView->property("contentY").toReal();
-    if (m_lastContentOffsetY > offset + kDismissDragDistance)
+    const qreal offset = d_func()->m_scrollView->property("contentY").toReal();
+    if (d_func()->m_lastContentOffsetY > offset + kDismissDragDistance)
         endEditing();
-    m_lastContentOffsetY = offset;
+    d_func()->m_lastContentOffsetY = offset;
 }
 
 void QVEmailViewController::scrollRectToVisible(const QRectF &rect)
 {
-    if (!m_scrollView)
+    if (!d_func()->m_scrollView)
         return;
     // What is not covered: below the top inset, above the keyboard.
-    const qreal current = m_scrollView->property("contentY").toReal();
-    const qreal visibleHeight = m_scrollView->height() - m_keyboardInset - m_topInset;
+    const qreal current = d_func()->m_scrollView->property("contentY").toReal();
+    const qreal visibleHeight = d_func()->m_scrollView->height() - d_func()->m_keyboardInset - d_func()->m_topInset;
     qreal target = current;
-    if (rect.bottom() > target + m_topInset + visibleHeight)
-        target = rect.bottom() - m_topInset - visibleHeight;
-    if (rect.top() < target + m_topInset)
-        target = rect.top() - m_topInset;
-    const qreal contentHeight = m_scrollView->property("contentHeight").toReal();
-    const qreal lowest = -m_topInset;
-    target = qBound(lowest, target, qMax(lowest, contentHeight + m_keyboardInset - m_scrollView->height()));
+    if (rect.bottom() > target + d_func()->m_topInset + visibleHeight)
+        target = rect.bottom() - d_func()->m_topInset - visibleHeight;
+    if (rect.top() < target + d_func()->m_topInset)
+        target = rect.top() - d_func()->m_topInset;
+    const qreal contentHeight = d_func()->m_scrollView->property("contentHeight").toReal();
+    const qreal lowest = -d_func()->m_topInset;
+    target = qBound(lowest, target, qMax(lowest, contentHeight + d_func()->m_keyboardInset - d_func()->m_scrollView->height()));
     if (qFuzzyCompare(1 + target, 1 + current))
         return;
-    if (m_scrollAnimation)
-        m_scrollAnimation->stop();
-    auto *scroll = new QPropertyAnimation(m_scrollView, "contentY", this);
+    if (d_func()->m_scrollAnimation)
+        d_func()->m_scrollAnimation->stop();
+    auto *scroll = new QPropertyAnimation(d_func()->m_scrollView, "contentY", this);
     scroll->setDuration(kScrollAnimationMs);
     scroll->setEasingCurve(QEasingCurve::OutCubic);
     scroll->setEndValue(target);
-    m_scrollAnimation = scroll;
+    d_func()->m_scrollAnimation = scroll;
     scroll->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
@@ -379,14 +382,138 @@ void QVEmailViewController::dateInputFieldPressed()
 void QVEmailViewController::onDateDonePressed()
 {
     fadeDatePanel(0);
-    if (m_uiDatePicker)
-        m_chosenDate = m_uiDatePicker->property("date").toDate();
-    m_offerDateCompletedView->dateValidated();
-    if (QQuickItem *button = m_offerDateCompletedView->dateBtn())
-        button->setProperty("text", m_chosenDate.toString(kDateDisplayFormat));
+    if (d_func()->m_uiDatePicker)
+        d_func()->m_chosenDate = d_func()->m_uiDatePicker->property("date").toDate();
+    d_func()->m_offerDateCompletedView->dateValidated();
+    if (QQuickItem *button = d_func()->m_offerDateCompletedView->dateBtn())
+        button->setProperty("text", d_func()->m_chosenDate.toString(kDateDisplayFormat));
 }
 
 QString QVEmailViewController::textOf(QQuickItem *input) const
 {
     return input ? input->property("text").toString() : QString();
+}
+
+QVEmailViewControllerDelegate *QVEmailViewController::delegate() const
+{
+    return d_func()->m_delegate;
+}
+
+void  QVEmailViewController::setDelegate(QVEmailViewControllerDelegate *delegate)
+{
+    d_func()->m_delegate = delegate;
+}
+
+int  QVEmailViewController::activeUISate() const
+{
+    return d_func()->m_activeUISate;
+}
+
+qreal  QVEmailViewController::keyboardInset() const
+{
+    return d_func()->m_keyboardInset;
+}
+
+qreal  QVEmailViewController::topInset() const
+{
+    return d_func()->m_topInset;
+}
+
+QString  QVEmailViewController::selectedSubjectId() const
+{
+    return d_func()->m_selectedSubjectId;
+}
+
+QDate  QVEmailViewController::chosenDate() const
+{
+    return d_func()->m_chosenDate;
+}
+
+QQuickItem *QVEmailViewController::contentView() const
+{
+    return d_func()->m_contentView;
+}
+
+QQuickItem *QVEmailViewController::scrollView() const
+{
+    return d_func()->m_scrollView;
+}
+
+QQuickItem *QVEmailViewController::datePickerView() const
+{
+    return d_func()->m_datePickerView;
+}
+
+QQuickItem *QVEmailViewController::uiDatePicker() const
+{
+    return d_func()->m_uiDatePicker;
+}
+
+QQuickItem *QVEmailViewController::dateDoneBtn() const
+{
+    return d_func()->m_dateDoneBtn;
+}
+
+QVEnterInformationView *QVEmailViewController::enterInfoView() const
+{
+    return d_func()->m_enterInfoView;
+}
+
+QVChooseSubjectView *QVEmailViewController::chooseSubjectView() const
+{
+    return d_func()->m_chooseSubjectView;
+}
+
+QVOfferTimeCompletedView *QVEmailViewController::offerTimeCompleted() const
+{
+    return d_func()->m_offerTimeCompleted;
+}
+
+QVOfferDateCompletedView *QVEmailViewController::offerDateCompletedView() const
+{
+    return d_func()->m_offerDateCompletedView;
+}
+
+QVEnterOfferTitleView *QVEmailViewController::enterOfferTitleView() const
+{
+    return d_func()->m_enterOfferTitleView;
+}
+
+QVEnterCommentView *QVEmailViewController::enterCommentView() const
+{
+    return d_func()->m_enterCommentView;
+}
+
+QVSupportSendButtonView *QVEmailViewController::sendButtonView() const
+{
+    return d_func()->m_sendButtonView;
+}
+
+QVUnableToAssist *QVEmailViewController::unableToAssistView() const
+{
+    return d_func()->m_unableToAssistView;
+}
+
+void QVEmailViewController::setScrollView(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_scrollView, value))
+        emit outletsChanged();
+}
+
+void QVEmailViewController::setDatePickerView(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_datePickerView, value))
+        emit outletsChanged();
+}
+
+void QVEmailViewController::setUiDatePicker(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_uiDatePicker, value))
+        emit outletsChanged();
+}
+
+void QVEmailViewController::setDateDoneBtn(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_dateDoneBtn, value))
+        emit outletsChanged();
 }

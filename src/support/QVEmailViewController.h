@@ -7,6 +7,7 @@
 #include <QtCore/QDate>
 #include <QtCore/QPointer>
 #include <QtQuick/QQuickItem>
+#include <memory>
 
 class QPropertyAnimation;
 class QVEnterCommentView;
@@ -15,6 +16,8 @@ class QVEnterOfferTitleView;
 class QVOfferDateCompletedView;
 class QVSupportSendButtonView;
 class QVUnableToAssist;
+
+class QVEmailViewControllerPrivate;
 
 /// Shown the form's validation messages, one at a time.
 class QUORVAMEDIA_EXPORT QVEmailViewControllerDelegate
@@ -38,13 +41,13 @@ class QUORVAMEDIA_EXPORT QVEmailViewController : public QQuickItem,
     Q_OBJECT
     QML_NAMED_ELEMENT(QVEmailViewControllerBase)
     /// Outlet: the scroll view that holds the form.
-    Q_PROPERTY(QQuickItem *scrollView MEMBER m_scrollView NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *scrollView READ scrollView WRITE setScrollView NOTIFY outletsChanged FINAL)
     /// Outlet: the date panel that slides over the form's bottom.
-    Q_PROPERTY(QQuickItem *datePickerView MEMBER m_datePickerView NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *datePickerView READ datePickerView WRITE setDatePickerView NOTIFY outletsChanged FINAL)
     /// Outlet: the date wheels.
-    Q_PROPERTY(QQuickItem *uiDatePicker MEMBER m_uiDatePicker NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *uiDatePicker READ uiDatePicker WRITE setUiDatePicker NOTIFY outletsChanged FINAL)
     /// Outlet: the date panel's "Done" button.
-    Q_PROPERTY(QQuickItem *dateDoneBtn MEMBER m_dateDoneBtn NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *dateDoneBtn READ dateDoneBtn WRITE setDateDoneBtn NOTIFY outletsChanged FINAL)
     /// The form's state, 0 to 5, as the class describes them.
     Q_PROPERTY(int activeUISate READ activeUISate NOTIFY activeUISateChanged FINAL)
     /// How much of the form's bottom the on-screen keyboard covers, in points.
@@ -69,8 +72,8 @@ public:
 
     ///@{
     /// The listener shown the validation messages; not owned.
-    QVEmailViewControllerDelegate *delegate() const { return m_delegate; }
-    void setDelegate(QVEmailViewControllerDelegate *delegate) { m_delegate = delegate; }
+    QVEmailViewControllerDelegate *delegate() const;
+    void setDelegate(QVEmailViewControllerDelegate *delegate);
     ///@}
 
     /// Builds the pieces and enters state 0; call once the delegate is set.
@@ -78,7 +81,7 @@ public:
 
     ///@{
     /// See #activeUISate. Setting it lays out the pieces of that state.
-    int activeUISate() const { return m_activeUISate; }
+    int activeUISate() const;
     void setUIState(int state);
     ///@}
     /// Sizes the content to the stacked pieces.
@@ -86,44 +89,44 @@ public:
     /// The bottom of the lowest piece, in points.
     qreal getMaximumHeight() const;
     /// See #keyboardInset.
-    qreal keyboardInset() const { return m_keyboardInset; }
+    qreal keyboardInset() const;
     /// How much of the form's top is covered (by the container's error strip); the form
     /// keeps what it scrolls to below that.
-    qreal topInset() const { return m_topInset; }
+    qreal topInset() const;
     /// Sets #topInset.
     void setTopInset(qreal inset);
     /// The chosen subject's identifier, "1" to "3", or empty.
-    QString selectedSubjectId() const { return m_selectedSubjectId; }
+    QString selectedSubjectId() const;
     /// The completion date picked, or a null date.
-    QDate chosenDate() const { return m_chosenDate; }
+    QDate chosenDate() const;
 
     ///@{
     /// The form's pieces and outlets; owned by the form.
-    QQuickItem *contentView() const { return m_contentView; }
+    QQuickItem *contentView() const;
     /// See #scrollView.
-    QQuickItem *scrollView() const { return m_scrollView; }
+    QQuickItem *scrollView() const;
     /// See #datePickerView.
-    QQuickItem *datePickerView() const { return m_datePickerView; }
+    QQuickItem *datePickerView() const;
     /// See #uiDatePicker.
-    QQuickItem *uiDatePicker() const { return m_uiDatePicker; }
+    QQuickItem *uiDatePicker() const;
     /// See #dateDoneBtn.
-    QQuickItem *dateDoneBtn() const { return m_dateDoneBtn; }
+    QQuickItem *dateDoneBtn() const;
     /// The enter info view, set by the interface file.
-    QVEnterInformationView *enterInfoView() const { return m_enterInfoView; }
+    QVEnterInformationView *enterInfoView() const;
     /// The choose subject view, set by the interface file.
-    QVChooseSubjectView *chooseSubjectView() const { return m_chooseSubjectView; }
+    QVChooseSubjectView *chooseSubjectView() const;
     /// The offer time completed, set by the interface file.
-    QVOfferTimeCompletedView *offerTimeCompleted() const { return m_offerTimeCompleted; }
+    QVOfferTimeCompletedView *offerTimeCompleted() const;
     /// The offer date completed view, set by the interface file.
-    QVOfferDateCompletedView *offerDateCompletedView() const { return m_offerDateCompletedView; }
+    QVOfferDateCompletedView *offerDateCompletedView() const;
     /// The enter offer title view, set by the interface file.
-    QVEnterOfferTitleView *enterOfferTitleView() const { return m_enterOfferTitleView; }
+    QVEnterOfferTitleView *enterOfferTitleView() const;
     /// The enter comment view, set by the interface file.
-    QVEnterCommentView *enterCommentView() const { return m_enterCommentView; }
+    QVEnterCommentView *enterCommentView() const;
     /// The send button view, set by the interface file.
-    QVSupportSendButtonView *sendButtonView() const { return m_sendButtonView; }
+    QVSupportSendButtonView *sendButtonView() const;
     /// The unable to assist view, set by the interface file.
-    QVUnableToAssist *unableToAssistView() const { return m_unableToAssistView; }
+    QVUnableToAssist *unableToAssistView() const;
     ///@}
 
     /// A subject row was tapped: moves to its state, keeping what was typed.
@@ -188,28 +191,14 @@ private:
     Q_DECL_HIDDEN QString textOf(QQuickItem *input) const;
     Q_DECL_HIDDEN void watchKeyboard();
 
-    QVEmailViewControllerDelegate *m_delegate = nullptr;
-    QQuickItem *m_scrollView = nullptr;
-    QQuickItem *m_datePickerView = nullptr;
-    QQuickItem *m_uiDatePicker = nullptr;
-    QQuickItem *m_dateDoneBtn = nullptr;
 
-    QQuickItem *m_contentView = nullptr;
-    QVOfferTimeCompletedView *m_offerTimeCompleted = nullptr;
-    QVEnterInformationView *m_enterInfoView = nullptr;
-    QVChooseSubjectView *m_chooseSubjectView = nullptr;
-    QVOfferDateCompletedView *m_offerDateCompletedView = nullptr;
-    QVEnterOfferTitleView *m_enterOfferTitleView = nullptr;
-    QVEnterCommentView *m_enterCommentView = nullptr;
-    QVSupportSendButtonView *m_sendButtonView = nullptr;
-    QVUnableToAssist *m_unableToAssistView = nullptr;
 
-    qreal m_lastContentOffsetY = 0;
-    int m_activeUISate = 0;
-    QString m_selectedSubjectId;
-    QDate m_chosenDate;
-    qreal m_keyboardInset = 0;
-    qreal m_topInset = 0;
-    QPointer<QPropertyAnimation> m_datePanelFade;
-    QPointer<QPropertyAnimation> m_scrollAnimation;
+    // The interface file reads and writes the outlets through their properties.
+    Q_DECL_HIDDEN void setScrollView(QQuickItem *value);
+    Q_DECL_HIDDEN void setDatePickerView(QQuickItem *value);
+    Q_DECL_HIDDEN void setUiDatePicker(QQuickItem *value);
+    Q_DECL_HIDDEN void setDateDoneBtn(QQuickItem *value);
+
+    Q_DECLARE_PRIVATE_D(m_d, QVEmailViewController)
+    std::unique_ptr<QVEmailViewControllerPrivate> m_d;
 };

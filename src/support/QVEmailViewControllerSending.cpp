@@ -1,5 +1,6 @@
 // The ticket form's second half: validating, sending and clearing.
 #include "QVEmailViewController.h"
+#include "QVEmailViewControllerPrivate.h"
 #include "QVAlertPresenter.h"
 #include "QVEnterCommentView.h"
 #include "QVEnterInformationView.h"
@@ -23,45 +24,45 @@ constexpr int kStateWithOfferDetails = 2;
 
 bool QVEmailViewController::validateFields()
 {
-    if (!m_contentView)
+    if (!d_func()->m_contentView)
         return false;
     endEditing();
-    const QQuickItem *dateButton = m_offerDateCompletedView->dateBtn();
+    const QQuickItem *dateButton = d_func()->m_offerDateCompletedView->dateBtn();
     const quorva::detail::TicketFormProblem problem = quorva::detail::firstProblem({
-        textOf(m_enterInfoView->nameTextField()),
-        textOf(m_enterInfoView->emailTextField()),
-        textOf(m_enterOfferTitleView->offerNameField()),
+        textOf(d_func()->m_enterInfoView->nameTextField()),
+        textOf(d_func()->m_enterInfoView->emailTextField()),
+        textOf(d_func()->m_enterOfferTitleView->offerNameField()),
         dateButton ? dateButton->property("text").toString() : QString(),
-        textOf(m_enterCommentView->commentInputField()),
-        m_activeUISate,
+        textOf(d_func()->m_enterCommentView->commentInputField()),
+        d_func()->m_activeUISate,
     });
     QQuickItem *piece = nullptr;
     switch (problem.field) {
     case TicketField::None:
         return true;
     case TicketField::Name:
-        m_enterInfoView->notValid(m_enterInfoView->nameTextField());
-        piece = m_enterInfoView;
+        d_func()->m_enterInfoView->notValid(d_func()->m_enterInfoView->nameTextField());
+        piece = d_func()->m_enterInfoView;
         break;
     case TicketField::Email:
-        m_enterInfoView->notValid(m_enterInfoView->emailTextField());
-        piece = m_enterInfoView;
+        d_func()->m_enterInfoView->notValid(d_func()->m_enterInfoView->emailTextField());
+        piece = d_func()->m_enterInfoView;
         break;
     case TicketField::OfferName:
-        m_enterOfferTitleView->notValid(m_enterOfferTitleView->offerNameField());
-        piece = m_enterOfferTitleView;
+        d_func()->m_enterOfferTitleView->notValid(d_func()->m_enterOfferTitleView->offerNameField());
+        piece = d_func()->m_enterOfferTitleView;
         break;
     case TicketField::Date:
-        m_offerDateCompletedView->notValid();
-        piece = m_offerDateCompletedView;
+        d_func()->m_offerDateCompletedView->notValid();
+        piece = d_func()->m_offerDateCompletedView;
         break;
     case TicketField::Comment:
-        m_enterCommentView->notValid(m_enterCommentView->commentInputField());
-        piece = m_enterCommentView;
+        d_func()->m_enterCommentView->notValid(d_func()->m_enterCommentView->commentInputField());
+        piece = d_func()->m_enterCommentView;
         break;
     }
-    if (m_delegate)
-        m_delegate->invalidInputMessage(problem.message);
+    if (d_func()->m_delegate)
+        d_func()->m_delegate->invalidInputMessage(problem.message);
     scrollRectToVisible(QRectF(piece->position(), piece->size()));
     return false;
 }
@@ -69,17 +70,17 @@ bool QVEmailViewController::validateFields()
 void QVEmailViewController::sendPressed()
 {
     // Without a subject there is no send button; a call from code sends nothing either.
-    if (!m_contentView || m_selectedSubjectId.isNull() || !validateFields())
+    if (!d_func()->m_contentView || d_func()->m_selectedSubjectId.isNull() || !validateFields())
         return;
-    const bool withOfferDetails = m_activeUISate == kStateWithOfferDetails;
+    const bool withOfferDetails = d_func()->m_activeUISate == kStateWithOfferDetails;
     // The texts go out as typed; trimming only judged them.
-    const QString offerName = withOfferDetails ? textOf(m_enterOfferTitleView->offerNameField()) : QString();
-    const QString completedAt = withOfferDetails ? m_chosenDate.toString(kApiDateFormat) : QString();
+    const QString offerName = withOfferDetails ? textOf(d_func()->m_enterOfferTitleView->offerNameField()) : QString();
+    const QString completedAt = withOfferDetails ? d_func()->m_chosenDate.toString(kApiDateFormat) : QString();
     QPointer<QVEmailViewController> self(this);
     // No guard against a second press: every press that passes validation files a ticket.
     QuorvaRestAPI::sharedInstance()->createSupportTicket(
-        textOf(m_enterInfoView->nameTextField()), textOf(m_enterInfoView->emailTextField()), m_selectedSubjectId,
-        textOf(m_enterCommentView->commentInputField()), offerName, completedAt,
+        textOf(d_func()->m_enterInfoView->nameTextField()), textOf(d_func()->m_enterInfoView->emailTextField()), d_func()->m_selectedSubjectId,
+        textOf(d_func()->m_enterCommentView->commentInputField()), offerName, completedAt,
         [self](const QVariant &) {
             if (self)
                 self->showTicketCreatedAlert();
@@ -104,14 +105,14 @@ void QVEmailViewController::showFailureAlert()
 
 void QVEmailViewController::clearInputFields()
 {
-    if (!m_contentView)
+    if (!d_func()->m_contentView)
         return;
-    m_enterInfoView->nameTextField()->setProperty("text", QString());
-    m_enterInfoView->emailTextField()->setProperty("text", QString());
-    m_chooseSubjectView->clearSelection();
-    m_offerTimeCompleted->clearSelection();
-    m_offerDateCompletedView->dateBtn()->setProperty("text", QString(QVOfferDateCompletedView::kPlaceholder));
-    m_enterOfferTitleView->offerNameField()->setProperty("text", QString());
-    m_enterCommentView->setCommentText(QString());
-    m_enterCommentView->setCounterText(kFullAllowance);
+    d_func()->m_enterInfoView->nameTextField()->setProperty("text", QString());
+    d_func()->m_enterInfoView->emailTextField()->setProperty("text", QString());
+    d_func()->m_chooseSubjectView->clearSelection();
+    d_func()->m_offerTimeCompleted->clearSelection();
+    d_func()->m_offerDateCompletedView->dateBtn()->setProperty("text", QString(QVOfferDateCompletedView::kPlaceholder));
+    d_func()->m_enterOfferTitleView->offerNameField()->setProperty("text", QString());
+    d_func()->m_enterCommentView->setCommentText(QString());
+    d_func()->m_enterCommentView->setCounterText(kFullAllowance);
 }

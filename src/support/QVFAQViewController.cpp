@@ -1,4 +1,6 @@
 #include "QVFAQViewController.h"
+#include "QVFAQViewControllerPrivate.h"
+#include "AssignIfChanged.h"
 #include "QVQACollectionViewCell.h"
 #include "QVFaqListModel.h"
 #include "QVLanguage.h"
@@ -7,7 +9,13 @@ namespace {
 constexpr QLatin1StringView kFaqsResource("faqs.plist");
 } // namespace
 
-QVFAQViewController::QVFAQViewController(QQuickItem *parent) : QQuickItem(parent), m_model(new QVFaqListModel(this)) {}
+QVFAQViewController::QVFAQViewController(QQuickItem *parent)
+    : QQuickItem(parent), m_d(std::make_unique<QVFAQViewControllerPrivate>())
+{
+    d_func()->m_model = new QVFaqListModel(this);
+}
+
+QVFAQViewController::~QVFAQViewController() = default;
 
 QString QVFAQViewController::faqsResourcePath()
 {
@@ -16,7 +24,7 @@ QString QVFAQViewController::faqsResourcePath()
 
 QAbstractItemModel *QVFAQViewController::model() const
 {
-    return m_model;
+    return d_func()->m_model;
 }
 
 void QVFAQViewController::viewDidLoad()
@@ -26,12 +34,12 @@ void QVFAQViewController::viewDidLoad()
 
 void QVFAQViewController::viewDidLoad(const QString &faqsPath)
 {
-    m_model->setEntries(quorva::detail::readFaqPropertyList(faqsPath));
+    d_func()->m_model->setEntries(quorva::detail::readFaqPropertyList(faqsPath));
 }
 
 int QVFAQViewController::numberOfItems() const
 {
-    return m_model->rowCount();
+    return d_func()->m_model->rowCount();
 }
 
 void QVFAQViewController::didSelectItem(int row)
@@ -40,17 +48,38 @@ void QVFAQViewController::didSelectItem(int row)
         return;
     // Selecting the open row again keeps it open; the list is rebuilt either way. The
     // rebuild waits for the tap that asked for it to finish, as it replaces that cell.
-    if (m_selectedIndexPath != row) {
-        m_selectedIndexPath = row;
+    if (d_func()->m_selectedIndexPath != row) {
+        d_func()->m_selectedIndexPath = row;
         emit selectedIndexPathChanged();
     }
-    QMetaObject::invokeMethod(m_model, &QVFaqListModel::reload, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(d_func()->m_model, &QVFaqListModel::reload, Qt::QueuedConnection);
 }
 
 qreal QVFAQViewController::heightForRow(int row, qreal width) const
 {
     if (!isExpanded(row) || row >= numberOfItems())
         return kCollapsedHeight;
-    const quorva::detail::FaqEntry &entry = m_model->entries().at(row);
+    const quorva::detail::FaqEntry &entry = d_func()->m_model->entries().at(row);
     return QVQACollectionViewCell::fittingHeight(entry.question, entry.answer, width);
+}
+
+int  QVFAQViewController::selectedIndexPath() const
+{
+    return d_func()->m_selectedIndexPath;
+}
+
+bool  QVFAQViewController::isExpanded(int row) const
+{
+    return d_func()->m_selectedIndexPath >= 0 && row == d_func()->m_selectedIndexPath;
+}
+
+QQuickItem *QVFAQViewController::collectionView() const
+{
+    return d_func()->m_collectionView;
+}
+
+void QVFAQViewController::setCollectionView(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_collectionView, value))
+        emit outletsChanged();
 }

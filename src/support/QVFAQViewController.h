@@ -4,8 +4,11 @@
 
 #include <QtCore/QAbstractItemModel>
 #include <QtQuick/QQuickItem>
+#include <memory>
 
 class QVFaqListModel;
+
+class QVFAQViewControllerPrivate;
 
 /// The FAQ tab: the questions of the library's "faqs" property list, one per row. Tapping
 /// a question opens it in place; at most one is open, and only tapping another closes it.
@@ -14,7 +17,7 @@ class QUORVAMEDIA_EXPORT QVFAQViewController : public QQuickItem
     Q_OBJECT
     QML_NAMED_ELEMENT(QVFAQViewControllerBase)
     /// Outlet: the collection view, set by the interface file.
-    Q_PROPERTY(QQuickItem *collectionView MEMBER m_collectionView NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *collectionView READ collectionView WRITE setCollectionView NOTIFY outletsChanged FINAL)
     /// The questions and answers, as the list shows them. Owned by the tab.
     Q_PROPERTY(QAbstractItemModel *model READ model CONSTANT FINAL)
     /// The open row, -1 while none is.
@@ -26,6 +29,8 @@ public:
 
     /// An empty tab; the support centre builds it.
     explicit QVFAQViewController(QQuickItem *parent = nullptr);
+    /// Destroys the tab.
+    ~QVFAQViewController() override;
     /// The type name, "QVFAQViewController".
     static QString identifier() { return QStringLiteral("QVFAQViewController"); }
     /// Where the library keeps its property list of questions and answers.
@@ -41,9 +46,9 @@ public:
     /// The number of questions.
     int numberOfItems() const;
     /// The open row, -1 while none is.
-    int selectedIndexPath() const { return m_selectedIndexPath; }
+    int selectedIndexPath() const;
     /// True when the row is the open one.
-    bool isExpanded(int row) const { return m_selectedIndexPath >= 0 && row == m_selectedIndexPath; }
+    bool isExpanded(int row) const;
 
     /// A tap on a question: opens it, closing the open one.
     Q_INVOKABLE void didSelectItem(int row);
@@ -58,7 +63,10 @@ signals:
     ///@}
 
 private:
-    QQuickItem *m_collectionView = nullptr;
-    QVFaqListModel *m_model = nullptr;
-    int m_selectedIndexPath = -1;
+    // The interface file reads and writes the outlets through their properties.
+    Q_DECL_HIDDEN QQuickItem *collectionView() const;
+    Q_DECL_HIDDEN void setCollectionView(QQuickItem *value);
+
+    Q_DECLARE_PRIVATE_D(m_d, QVFAQViewController)
+    std::unique_ptr<QVFAQViewControllerPrivate> m_d;
 };

@@ -1,4 +1,6 @@
 #include "QVHistoryViewController.h"
+#include "QVHistoryViewControllerPrivate.h"
+#include "AssignIfChanged.h"
 #include "QVPayoutFormatter.h"
 #include "QVTransactionsListModel.h"
 #include "QuorvaRestAPI.h"
@@ -6,24 +8,25 @@
 #include <QtCore/QPointer>
 
 QVHistoryViewController::QVHistoryViewController(QQuickItem *parent)
-    : QQuickItem(parent),
-      m_numberFormatter(std::make_unique<QVPayoutFormatter>()),
-      m_transactions(new QVTransactionsListModel(m_numberFormatter.get(), this))
+    : QQuickItem(parent), m_d(std::make_unique<QVHistoryViewControllerPrivate>())
 {
+    Q_D(QVHistoryViewController);
+    d->m_numberFormatter = std::make_unique<QVPayoutFormatter>();
+    d->m_transactions = new QVTransactionsListModel(d->m_numberFormatter.get(), this);
 }
 
 QVHistoryViewController::~QVHistoryViewController() = default;
 
 QAbstractItemModel *QVHistoryViewController::model() const
 {
-    return m_transactions;
+    return d_func()->m_transactions;
 }
 
 void QVHistoryViewController::setLoading(bool loading)
 {
-    if (m_isLoading == loading)
+    if (d_func()->m_isLoading == loading)
         return;
-    m_isLoading = loading;
+    d_func()->m_isLoading = loading;
     emit isLoadingChanged();
 }
 
@@ -35,7 +38,7 @@ void QVHistoryViewController::viewDidLoad()
         [self](const QList<QVTransaction> &transactions) {
             if (!self)
                 return;
-            self->m_transactions->setTransactions(transactions);
+            self->d_func()->m_transactions->setTransactions(transactions);
             self->setLoading(false);
             self->reloadData();
         },
@@ -53,8 +56,35 @@ void QVHistoryViewController::reloadData()
 
 int QVHistoryViewController::numberOfItems()
 {
-    const int count = m_transactions->rowCount();
-    if (m_noOffersCompleted && !m_isLoading)
-        m_noOffersCompleted->setVisible(count == 0);
+    const int count = d_func()->m_transactions->rowCount();
+    if (d_func()->m_noOffersCompleted && !d_func()->m_isLoading)
+        d_func()->m_noOffersCompleted->setVisible(count == 0);
     return count;
+}
+
+bool  QVHistoryViewController::isLoading() const
+{
+    return d_func()->m_isLoading;
+}
+
+QQuickItem *QVHistoryViewController::collectionView() const
+{
+    return d_func()->m_collectionView;
+}
+
+void QVHistoryViewController::setCollectionView(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_collectionView, value))
+        emit outletsChanged();
+}
+
+QQuickItem *QVHistoryViewController::noOffersCompleted() const
+{
+    return d_func()->m_noOffersCompleted;
+}
+
+void QVHistoryViewController::setNoOffersCompleted(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_noOffersCompleted, value))
+        emit outletsChanged();
 }

@@ -10,6 +10,8 @@
 class QVPayoutFormatter;
 class QVTransactionsListModel;
 
+class QVHistoryViewControllerPrivate;
+
 /// The history tab: the user's credited offers, asked for once when the tab is built and
 /// never refreshed. An answer without transactions shows the empty label instead; a
 /// failed request shows nothing at all.
@@ -18,9 +20,9 @@ class QUORVAMEDIA_EXPORT QVHistoryViewController : public QQuickItem
     Q_OBJECT
     QML_NAMED_ELEMENT(QVHistoryViewControllerBase)
     /// Outlet: the collection view, set by the interface file.
-    Q_PROPERTY(QQuickItem *collectionView MEMBER m_collectionView NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *collectionView READ collectionView WRITE setCollectionView NOTIFY outletsChanged FINAL)
     /// Outlet: the no offers completed, set by the interface file.
-    Q_PROPERTY(QQuickItem *noOffersCompleted MEMBER m_noOffersCompleted NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *noOffersCompleted READ noOffersCompleted WRITE setNoOffersCompleted NOTIFY outletsChanged FINAL)
     /// The credited offers, as the list shows them. Owned by the tab.
     Q_PROPERTY(QAbstractItemModel *model READ model CONSTANT FINAL)
     /// True while the history request is under way.
@@ -49,7 +51,7 @@ public:
     /// See #model.
     QAbstractItemModel *model() const;
     /// See #isLoading.
-    bool isLoading() const { return m_isLoading; }
+    bool isLoading() const;
     /// The row count; also decides the empty label, which only this changes.
     int numberOfItems();
 
@@ -64,9 +66,12 @@ private:
     Q_DECL_HIDDEN void setLoading(bool loading);
     Q_DECL_HIDDEN void reloadData();
 
-    QQuickItem *m_collectionView = nullptr;
-    QQuickItem *m_noOffersCompleted = nullptr;
-    std::unique_ptr<QVPayoutFormatter> m_numberFormatter;
-    QVTransactionsListModel *m_transactions = nullptr;
-    bool m_isLoading = false;
+    // The interface file reads and writes the outlets through their properties.
+    Q_DECL_HIDDEN QQuickItem *collectionView() const;
+    Q_DECL_HIDDEN void setCollectionView(QQuickItem *value);
+    Q_DECL_HIDDEN QQuickItem *noOffersCompleted() const;
+    Q_DECL_HIDDEN void setNoOffersCompleted(QQuickItem *value);
+
+    Q_DECLARE_PRIVATE_D(m_d, QVHistoryViewController)
+    std::unique_ptr<QVHistoryViewControllerPrivate> m_d;
 };

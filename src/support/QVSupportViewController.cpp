@@ -1,4 +1,6 @@
 #include "QVSupportViewController.h"
+#include "QVSupportViewControllerPrivate.h"
+#include "AssignIfChanged.h"
 #include "QVColor.h"
 #include "QVComponentFactory.h"
 #include "QVFAQViewController.h"
@@ -13,7 +15,8 @@ namespace {
 constexpr QLatin1StringView kFormBackground("#F2F2F2");
 } // namespace
 
-QVSupportViewController::QVSupportViewController(QQuickItem *parent) : QQuickItem(parent)
+QVSupportViewController::QVSupportViewController(QQuickItem *parent)
+    : QQuickItem(parent), m_d(std::make_unique<QVSupportViewControllerPrivate>())
 {
     setFlag(ItemIsFocusScope, true);
 }
@@ -51,45 +54,45 @@ void QVSupportViewController::layoutChild(QQuickItem *child)
         return;
     child->setParentItem(this);
     // Below the error strip in stacking order, so the strip shows over the tab.
-    if (m_errorLabel)
-        child->stackBefore(m_errorLabel);
+    if (d_func()->m_errorLabel)
+        child->stackBefore(d_func()->m_errorLabel);
     child->setPosition({0, childTop()});
     child->setSize({width(), qMax<qreal>(0, height() - childTop())});
 }
 
 QVFAQViewController *QVSupportViewController::faqViewController()
 {
-    if (!m_faqVC && (m_faqVC = createChild<QVFAQViewController>("faqVC"))) {
-        layoutChild(m_faqVC);
-        m_faqVC->viewDidLoad();
+    if (!d_func()->m_faqVC && (d_func()->m_faqVC = createChild<QVFAQViewController>("faqVC"))) {
+        layoutChild(d_func()->m_faqVC);
+        d_func()->m_faqVC->viewDidLoad();
     }
-    return m_faqVC;
+    return d_func()->m_faqVC;
 }
 
 QVHistoryViewController *QVSupportViewController::historyViewController()
 {
-    if (!m_historyVC && (m_historyVC = createChild<QVHistoryViewController>("historyVC"))) {
-        layoutChild(m_historyVC);
-        m_historyVC->viewDidLoad(); // sends the history request
+    if (!d_func()->m_historyVC && (d_func()->m_historyVC = createChild<QVHistoryViewController>("historyVC"))) {
+        layoutChild(d_func()->m_historyVC);
+        d_func()->m_historyVC->viewDidLoad(); // sends the history request
     }
-    return m_historyVC;
+    return d_func()->m_historyVC;
 }
 
 QVEmailViewController *QVSupportViewController::emailViewController()
 {
-    if (!m_emailVC && (m_emailVC = createChild<QVEmailViewController>("emailVC"))) {
-        m_emailVC->setDelegate(this);
-        layoutChild(m_emailVC);
-        m_emailVC->viewDidLoad();
+    if (!d_func()->m_emailVC && (d_func()->m_emailVC = createChild<QVEmailViewController>("emailVC"))) {
+        d_func()->m_emailVC->setDelegate(this);
+        layoutChild(d_func()->m_emailVC);
+        d_func()->m_emailVC->viewDidLoad();
     }
-    return m_emailVC;
+    return d_func()->m_emailVC;
 }
 
 void QVSupportViewController::setBackgroundColor(const QColor &color)
 {
-    if (m_backgroundColor == color)
+    if (d_func()->m_backgroundColor == color)
         return;
-    m_backgroundColor = color;
+    d_func()->m_backgroundColor = color;
     emit backgroundColorChanged();
 }
 
@@ -115,17 +118,17 @@ void QVSupportViewController::onViewTypeChange(int index)
 
 void QVSupportViewController::segmentChanged(int index)
 {
-    if (index < 0 || index == m_shownSegment)
+    if (index < 0 || index == d_func()->m_shownSegment)
         return;
-    m_shownSegment = index;
+    d_func()->m_shownSegment = index;
     onViewTypeChange(index);
 }
 
 void QVSupportViewController::invalidInputMessage(const QString &message)
 {
-    if (!m_errorLabel)
+    if (!d_func()->m_errorLabel)
         return;
-    m_errorLabel->setProperty("text", message);
+    d_func()->m_errorLabel->setProperty("text", message);
     setErrorVisible(true);
 }
 
@@ -136,12 +139,12 @@ void QVSupportViewController::hideErrorMessage(QObject *)
 
 void QVSupportViewController::setErrorVisible(bool visible)
 {
-    if (!m_errorLabel)
+    if (!d_func()->m_errorLabel)
         return;
-    m_errorLabel->setVisible(visible);
+    d_func()->m_errorLabel->setVisible(visible);
     // The form moves what it shows out from under the strip.
-    if (m_emailVC)
-        m_emailVC->setTopInset(visible ? m_errorLabel->height() : 0);
+    if (d_func()->m_emailVC)
+        d_func()->m_emailVC->setTopInset(visible ? d_func()->m_errorLabel->height() : 0);
 }
 
 void QVSupportViewController::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
@@ -149,9 +152,41 @@ void QVSupportViewController::geometryChange(const QRectF &newGeometry, const QR
     QQuickItem::geometryChange(newGeometry, oldGeometry);
     if (newGeometry.size() == oldGeometry.size())
         return;
-    for (QQuickItem *child : {static_cast<QQuickItem *>(m_faqVC), static_cast<QQuickItem *>(m_historyVC),
-                              static_cast<QQuickItem *>(m_emailVC)}) {
+    for (QQuickItem *child : {static_cast<QQuickItem *>(d_func()->m_faqVC), static_cast<QQuickItem *>(d_func()->m_historyVC),
+                              static_cast<QQuickItem *>(d_func()->m_emailVC)}) {
         if (child)
             child->setSize({newGeometry.width(), qMax<qreal>(0, newGeometry.height() - childTop())});
     }
+}
+
+QColor  QVSupportViewController::backgroundColor() const
+{
+    return d_func()->m_backgroundColor;
+}
+
+bool  QVSupportViewController::showsFormBackground() const
+{
+    return d_func()->m_backgroundColor != QColor(Qt::white);
+}
+
+QQuickItem *QVSupportViewController::errorLabel() const
+{
+    return d_func()->m_errorLabel;
+}
+
+QQuickItem *QVSupportViewController::segmentedControl() const
+{
+    return d_func()->m_segmentedControl;
+}
+
+void QVSupportViewController::setSegmentedControl(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_segmentedControl, value))
+        emit outletsChanged();
+}
+
+void QVSupportViewController::setErrorLabel(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_errorLabel, value))
+        emit outletsChanged();
 }

@@ -5,9 +5,12 @@
 
 #include <QtGui/QColor>
 #include <QtQuick/QQuickItem>
+#include <memory>
 
 class QVFAQViewController;
 class QVHistoryViewController;
+
+class QVSupportViewControllerPrivate;
 
 /// The support centre: a segmented control over three tabs (FAQ, history, ticket form)
 /// and one error strip in which the form shows its validation messages. Each tab is built
@@ -19,9 +22,9 @@ class QUORVAMEDIA_EXPORT QVSupportViewController : public QQuickItem, public QVE
     Q_OBJECT
     QML_NAMED_ELEMENT(QVSupportViewControllerBase)
     /// Outlet: the segmented control, set by the interface file.
-    Q_PROPERTY(QQuickItem *segmentedControl MEMBER m_segmentedControl NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *segmentedControl READ segmentedControl WRITE setSegmentedControl NOTIFY outletsChanged FINAL)
     /// Outlet: the error label, set by the interface file.
-    Q_PROPERTY(QQuickItem *errorLabel MEMBER m_errorLabel NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *errorLabel READ errorLabel WRITE setErrorLabel NOTIFY outletsChanged FINAL)
     /// The colour behind the current tab.
     Q_PROPERTY(QColor backgroundColor READ backgroundColor NOTIFY backgroundColorChanged FINAL)
     /// The form's grey is shown: the theme's background rather than its card colour.
@@ -47,11 +50,11 @@ public:
     static qreal errorCornerRadius() { return 4; }
 
     /// See #backgroundColor.
-    QColor backgroundColor() const { return m_backgroundColor; }
+    QColor backgroundColor() const;
     /// See #showsFormBackground.
-    bool showsFormBackground() const { return m_backgroundColor != QColor(Qt::white); }
+    bool showsFormBackground() const;
     /// See #errorLabel.
-    QQuickItem *errorLabel() const { return m_errorLabel; }
+    QQuickItem *errorLabel() const;
 
     ///@{
     /// The tab, built when first asked for; owned by the centre.
@@ -91,11 +94,11 @@ private:
     Q_DECL_HIDDEN void setBackgroundColor(const QColor &color);
     Q_DECL_HIDDEN void setErrorVisible(bool visible);
 
-    QQuickItem *m_segmentedControl = nullptr;
-    QQuickItem *m_errorLabel = nullptr;
-    QVFAQViewController *m_faqVC = nullptr;
-    QVHistoryViewController *m_historyVC = nullptr;
-    QVEmailViewController *m_emailVC = nullptr;
-    QColor m_backgroundColor = Qt::white;
-    int m_shownSegment = FaqTab;
+    // The interface file reads and writes the outlets through their properties.
+    Q_DECL_HIDDEN QQuickItem *segmentedControl() const;
+    Q_DECL_HIDDEN void setSegmentedControl(QQuickItem *value);
+    Q_DECL_HIDDEN void setErrorLabel(QQuickItem *value);
+
+    Q_DECLARE_PRIVATE_D(m_d, QVSupportViewController)
+    std::unique_ptr<QVSupportViewControllerPrivate> m_d;
 };

@@ -1,4 +1,6 @@
 #include "QVFiltersViewController.h"
+#include "QVFiltersViewControllerPrivate.h"
+#include "AssignIfChanged.h"
 #include "QVAlertPresenter.h"
 #include "QVDevice.h"
 #include "QVFilterListModel.h"
@@ -44,8 +46,10 @@ QVCategory namedCategory(QLatin1StringView name)
 } // namespace
 
 QVFiltersViewController::QVFiltersViewController(QQuickItem *parent)
-    : QQuickItem(parent), m_sortOptions(defaultSortOptions()), m_model(new QVFilterListModel(this))
+    : QQuickItem(parent), m_d(std::make_unique<QVFiltersViewControllerPrivate>())
 {
+    d_func()->m_sortOptions = defaultSortOptions();
+    d_func()->m_model = new QVFilterListModel(this);
     setAcceptedMouseButtons(Qt::AllButtons);
     setAcceptTouchEvents(true);
 }
@@ -90,14 +94,14 @@ void QVFiltersViewController::resetAllCategories()
 
 QAbstractItemModel *QVFiltersViewController::model() const
 {
-    return m_model;
+    return d_func()->m_model;
 }
 
 void QVFiltersViewController::setTopMargin(qreal margin)
 {
-    if (qFuzzyCompare(m_topMargin, margin))
+    if (qFuzzyCompare(d_func()->m_topMargin, margin))
         return;
-    m_topMargin = margin;
+    d_func()->m_topMargin = margin;
     emit topMarginChanged();
 }
 
@@ -111,7 +115,7 @@ void QVFiltersViewController::viewDidLoad()
 int QVFiltersViewController::numberOfItems(int section) const
 {
     if (section == kTypeSection)
-        return int(m_sortOptions.size());
+        return int(d_func()->m_sortOptions.size());
     return allCategories() ? int(allCategories()->size()) : 0;
 }
 
@@ -123,7 +127,7 @@ QString QVFiltersViewController::titleForSection(int section)
 QString QVFiltersViewController::titleForRow(int section, int row) const
 {
     const QString name = section == kTypeSection
-        ? m_sortOptions.value(row).key()
+        ? d_func()->m_sortOptions.value(row).key()
         : (allCategories() ? allCategories()->value(row).categoryName() : QString());
     // The service's own category names are shown as it sends them.
     for (const char *shown : kShownNames) {
@@ -135,11 +139,11 @@ QString QVFiltersViewController::titleForRow(int section, int row) const
 
 void QVFiltersViewController::loadCategories()
 {
-    if (!m_sortParam)
-        m_sortKeyIndex = 0;
-    for (int row = 0; m_sortParam && row < m_sortOptions.size(); ++row) {
-        if (m_sortOptions[row].value() == m_sortParam->value()) {
-            m_sortKeyIndex = row;
+    if (!d_func()->m_sortParam)
+        d_func()->m_sortKeyIndex = 0;
+    for (int row = 0; d_func()->m_sortParam && row < d_func()->m_sortOptions.size(); ++row) {
+        if (d_func()->m_sortOptions[row].value() == d_func()->m_sortParam->value()) {
+            d_func()->m_sortKeyIndex = row;
             break;
         }
     }
@@ -147,7 +151,7 @@ void QVFiltersViewController::loadCategories()
         refresh();
         return;
     }
-    m_model->reload();
+    d_func()->m_model->reload();
     // The request keeps the panel's pointer weak: a panel closed before the answer
     // still fills the shared list for the next one.
     QPointer<QVFiltersViewController> self(this);
@@ -169,42 +173,114 @@ void QVFiltersViewController::loadCategories()
 void QVFiltersViewController::refresh()
 {
     // Categories are matched by name, so the two fixed entries match too.
-    if (!m_categoryParam)
-        m_categoryKeyIndex = 0;
+    if (!d_func()->m_categoryParam)
+        d_func()->m_categoryKeyIndex = 0;
     const QList<QVCategory> categories = allCategories().value_or(QList<QVCategory>());
-    for (int row = 0; m_categoryParam && row < categories.size(); ++row) {
-        if (categories[row].categoryName() == m_categoryParam->categoryName()) {
-            m_categoryKeyIndex = row;
+    for (int row = 0; d_func()->m_categoryParam && row < categories.size(); ++row) {
+        if (categories[row].categoryName() == d_func()->m_categoryParam->categoryName()) {
+            d_func()->m_categoryKeyIndex = row;
             break;
         }
     }
-    m_model->reload();
+    d_func()->m_model->reload();
 }
 
 void QVFiltersViewController::didSelectItem(int section, int row)
 {
-    int &keyIndex = section == kTypeSection ? m_sortKeyIndex : m_categoryKeyIndex;
+    int &keyIndex = section == kTypeSection ? d_func()->m_sortKeyIndex : d_func()->m_categoryKeyIndex;
     if (row == keyIndex || row < 0 || row >= numberOfItems(section))
         return;
     const int previous = keyIndex;
     keyIndex = row;
-    m_model->refreshSelection(section, previous);
-    m_model->refreshSelection(section, row);
-    if (m_saveButton)
-        m_saveButton->setVisible(true);
+    d_func()->m_model->refreshSelection(section, previous);
+    d_func()->m_model->refreshSelection(section, row);
+    if (d_func()->m_saveButton)
+        d_func()->m_saveButton->setVisible(true);
 }
 
 void QVFiltersViewController::onSavedPressed()
 {
-    if (!m_delegate)
+    if (!d_func()->m_delegate)
         return;
     std::optional<QVCategory> category;
-    if (allCategories() && m_categoryKeyIndex < allCategories()->size())
-        category = allCategories()->at(m_categoryKeyIndex);
-    m_delegate->onSaveFiltersPressed(category, m_sortOptions.value(m_sortKeyIndex));
+    if (allCategories() && d_func()->m_categoryKeyIndex < allCategories()->size())
+        category = allCategories()->at(d_func()->m_categoryKeyIndex);
+    d_func()->m_delegate->onSaveFiltersPressed(category, d_func()->m_sortOptions.value(d_func()->m_sortKeyIndex));
 }
 
 void QVFiltersViewController::showFailureAlert()
 {
     QVAlertPresenter::present(this, tr(kAlertTitle), tr(kAlertMessage), tr(kAlertAction));
+}
+
+QVFiltersViewControllerDelegate *QVFiltersViewController::delegate() const
+{
+    return d_func()->m_delegate;
+}
+
+void  QVFiltersViewController::setDelegate(QVFiltersViewControllerDelegate *delegate)
+{
+    d_func()->m_delegate = delegate;
+}
+
+std::optional<QVCategory>  QVFiltersViewController::categoryParam() const
+{
+    return d_func()->m_categoryParam;
+}
+
+void  QVFiltersViewController::setCategoryParam(const std::optional<QVCategory> &category)
+{
+    d_func()->m_categoryParam = category;
+}
+
+std::optional<QVSort>  QVFiltersViewController::sortParam() const
+{
+    return d_func()->m_sortParam;
+}
+
+void  QVFiltersViewController::setSortParam(const std::optional<QVSort> &sort)
+{
+    d_func()->m_sortParam = sort;
+}
+
+QList<QVSort>  QVFiltersViewController::sortOptions() const
+{
+    return d_func()->m_sortOptions;
+}
+
+qreal  QVFiltersViewController::topMargin() const
+{
+    return d_func()->m_topMargin;
+}
+
+int  QVFiltersViewController::sortKeyIndex() const
+{
+    return d_func()->m_sortKeyIndex;
+}
+
+int  QVFiltersViewController::categoryKeyIndex() const
+{
+    return d_func()->m_categoryKeyIndex;
+}
+
+QQuickItem *QVFiltersViewController::collectionView() const
+{
+    return d_func()->m_collectionView;
+}
+
+void QVFiltersViewController::setCollectionView(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_collectionView, value))
+        emit outletsChanged();
+}
+
+QQuickItem *QVFiltersViewController::saveButton() const
+{
+    return d_func()->m_saveButton;
+}
+
+void QVFiltersViewController::setSaveButton(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_saveButton, value))
+        emit outletsChanged();
 }

@@ -9,8 +9,11 @@
 #include <QtQuick/QQuickItem>
 
 #include <optional>
+#include <memory>
 
 class QVFilterListModel;
+
+class QVFiltersViewControllerPrivate;
 
 /// Told which sort and category the user saved. The category is absent when the
 /// categories could not be loaded.
@@ -31,9 +34,9 @@ class QUORVAMEDIA_EXPORT QVFiltersViewController : public QQuickItem
     Q_OBJECT
     QML_NAMED_ELEMENT(QVFiltersViewControllerBase)
     /// Outlet: the list of rows.
-    Q_PROPERTY(QQuickItem *collectionView MEMBER m_collectionView NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *collectionView READ collectionView WRITE setCollectionView NOTIFY outletsChanged FINAL)
     /// Outlet: the save button.
-    Q_PROPERTY(QQuickItem *saveButton MEMBER m_saveButton NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *saveButton READ saveButton WRITE setSaveButton NOTIFY outletsChanged FINAL)
     /// The panel's sections and rows, as the list shows them. Owned by the panel.
     Q_PROPERTY(QAbstractItemModel *model READ model CONSTANT FINAL)
     /// Space above the first section, in points.
@@ -71,23 +74,23 @@ public:
 
     ///@{
     /// The listener told of the saved choice; not owned.
-    QVFiltersViewControllerDelegate *delegate() const { return m_delegate; }
-    void setDelegate(QVFiltersViewControllerDelegate *delegate) { m_delegate = delegate; }
+    QVFiltersViewControllerDelegate *delegate() const;
+    void setDelegate(QVFiltersViewControllerDelegate *delegate);
     ///@}
     ///@{
     /// The choice the panel opens with, checked; set before viewDidLoad().
-    std::optional<QVCategory> categoryParam() const { return m_categoryParam; }
-    void setCategoryParam(const std::optional<QVCategory> &category) { m_categoryParam = category; }
-    std::optional<QVSort> sortParam() const { return m_sortParam; }
-    void setSortParam(const std::optional<QVSort> &sort) { m_sortParam = sort; }
+    std::optional<QVCategory> categoryParam() const;
+    void setCategoryParam(const std::optional<QVCategory> &category);
+    std::optional<QVSort> sortParam() const;
+    void setSortParam(const std::optional<QVSort> &sort);
     ///@}
     /// The sort choices the panel shows.
-    QList<QVSort> sortOptions() const { return m_sortOptions; }
+    QList<QVSort> sortOptions() const;
 
     ///@{
     /// See the properties of the same names.
     QAbstractItemModel *model() const;
-    qreal topMargin() const { return m_topMargin; }
+    qreal topMargin() const;
     void setTopMargin(qreal margin);
     static qreal itemHeight() { return 60; }
     static qreal sectionInsetTop() { return 5; }
@@ -96,8 +99,8 @@ public:
 
     ///@{
     /// The checked row of each section.
-    int sortKeyIndex() const { return m_sortKeyIndex; }
-    int categoryKeyIndex() const { return m_categoryKeyIndex; }
+    int sortKeyIndex() const;
+    int categoryKeyIndex() const;
     ///@}
     /// The number of rows in the section.
     int numberOfItems(int section) const;
@@ -134,14 +137,12 @@ private:
     Q_DECL_HIDDEN void refresh();
     Q_DECL_HIDDEN void showFailureAlert();
 
-    QVFiltersViewControllerDelegate *m_delegate = nullptr;
-    std::optional<QVCategory> m_categoryParam;
-    std::optional<QVSort> m_sortParam;
-    QList<QVSort> m_sortOptions;
-    int m_sortKeyIndex = 0;
-    int m_categoryKeyIndex = 0;
-    qreal m_topMargin = 0;
-    QQuickItem *m_collectionView = nullptr;
-    QQuickItem *m_saveButton = nullptr;
-    QVFilterListModel *m_model = nullptr;
+    // The interface file reads and writes the outlets through their properties.
+    Q_DECL_HIDDEN QQuickItem *collectionView() const;
+    Q_DECL_HIDDEN void setCollectionView(QQuickItem *value);
+    Q_DECL_HIDDEN QQuickItem *saveButton() const;
+    Q_DECL_HIDDEN void setSaveButton(QQuickItem *value);
+
+    Q_DECLARE_PRIVATE_D(m_d, QVFiltersViewController)
+    std::unique_ptr<QVFiltersViewControllerPrivate> m_d;
 };

@@ -1,4 +1,6 @@
 #include "QVOffersViewController.h"
+#include "QVOffersViewControllerPrivate.h"
+#include "AssignIfChanged.h"
 #include "QVAlertPresenter.h"
 #include "QVComponentFactory.h"
 #include "QVCreditsWatcher.h"
@@ -37,23 +39,25 @@ const QString kAgeRanges[] = {QStringLiteral("1"), QStringLiteral("2"), QStringL
 } // namespace
 
 QVOffersViewController::QVOffersViewController(QQuickItem *parent)
-    : QQuickItem(parent), m_offers(new QVOffersListModel(this)), m_loadingIndicatorDelay(new QTimer(this))
+    : QQuickItem(parent), m_d(std::make_unique<QVOffersViewControllerPrivate>())
 {
-    connect(m_offers, &QVOffersListModel::countChanged, this, &QVOffersViewController::offerCountChanged);
-    m_loadingIndicatorDelay->setSingleShot(true);
-    m_loadingIndicatorDelay->setInterval(kLoadingIndicatorDelayMs);
-    connect(m_loadingIndicatorDelay, &QTimer::timeout, this, [this] {
-        m_showsLoadingIndicator = m_loadingOffers;
+    d_func()->m_offers = new QVOffersListModel(this);
+    d_func()->m_loadingIndicatorDelay = new QTimer(this);
+    connect(d_func()->m_offers, &QVOffersListModel::countChanged, this, &QVOffersViewController::offerCountChanged);
+    d_func()->m_loadingIndicatorDelay->setSingleShot(true);
+    d_func()->m_loadingIndicatorDelay->setInterval(kLoadingIndicatorDelayMs);
+    connect(d_func()->m_loadingIndicatorDelay, &QTimer::timeout, this, [this] {
+        d_func()->m_showsLoadingIndicator = d_func()->m_loadingOffers;
         emit showsLoadingIndicatorChanged();
     });
-    m_creditNoticeTimer = new QTimer(this);
-    m_creditNoticeTimer->setSingleShot(true);
-    m_creditNoticeTimer->setInterval(kCreditNoticeMs);
-    connect(m_creditNoticeTimer, &QTimer::timeout, this, &QVOffersViewController::dismissCreditNotice);
-    m_theme = QVTheme::system();
+    d_func()->m_creditNoticeTimer = new QTimer(this);
+    d_func()->m_creditNoticeTimer->setSingleShot(true);
+    d_func()->m_creditNoticeTimer->setInterval(kCreditNoticeMs);
+    connect(d_func()->m_creditNoticeTimer, &QTimer::timeout, this, &QVOffersViewController::dismissCreditNotice);
+    d_func()->m_theme = QVTheme::system();
     // The host's default locale when the wall is made chooses its language.
     quorva::detail::useLanguageOf(QLocale());
-    m_rightToLeft = quorva::detail::libraryLocale().textDirection() == Qt::RightToLeft;
+    d_func()->m_rightToLeft = quorva::detail::libraryLocale().textDirection() == Qt::RightToLeft;
     // The palette changes when the system switches between light and dark.
     if (QCoreApplication *app = QCoreApplication::instance())
         app->installEventFilter(this);
@@ -61,20 +65,20 @@ QVOffersViewController::QVOffersViewController(QQuickItem *parent)
 
 void QVOffersViewController::setTheme(const QVTheme &theme)
 {
-    m_themeSet = true;
-    if (m_theme == theme)
+    d_func()->m_themeSet = true;
+    if (d_func()->m_theme == theme)
         return;
-    m_theme = theme;
+    d_func()->m_theme = theme;
     emit themeChanged();
 }
 
 bool QVOffersViewController::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::ApplicationPaletteChange && watched == QCoreApplication::instance()
-        && !m_themeSet) {
+        && !d_func()->m_themeSet) {
         const QVTheme system = QVTheme::system();
-        if (!(system == m_theme)) {
-            m_theme = system;
+        if (!(system == d_func()->m_theme)) {
+            d_func()->m_theme = system;
             emit themeChanged();
         }
     }
@@ -83,13 +87,13 @@ bool QVOffersViewController::eventFilter(QObject *watched, QEvent *event)
 
 int QVOffersViewController::offerCount() const
 {
-    return m_offers->count();
+    return d_func()->m_offers->count();
 }
 
 QVOffersViewController::~QVOffersViewController()
 {
     // A popover closes as it goes; the wall is past hearing about it.
-    for (QObject *popover : {m_filterPopover, m_supportPopover}) {
+    for (QObject *popover : {d_func()->m_filterPopover, d_func()->m_supportPopover}) {
         if (popover) {
             popover->disconnect(this);
             delete popover;
@@ -114,7 +118,7 @@ QVOffersViewController *QVOffersViewController::newOffersWallForPublisherId(cons
         wall = QVComponentFactory::create<QVOffersViewController>(QVComponentFactory::sharedEngine(), identifier());
     if (wall) {
         wall->setDelegate(delegate);
-        wall->m_preload = preload;
+        wall->d_func()->m_preload = preload;
     }
     return wall;
 }
@@ -170,13 +174,13 @@ QSizeF QVOffersViewController::sizeForItem(qreal viewWidth)
     return {viewWidth, 140};
 }
 
-QAbstractItemModel *QVOffersViewController::offersModel() const { return m_offers; }
-const QList<QVOffer> &QVOffersViewController::offersList() const { return m_offers->offers(); }
+QAbstractItemModel *QVOffersViewController::offersModel() const { return d_func()->m_offers; }
+const QList<QVOffer> &QVOffersViewController::offersList() const { return d_func()->m_offers->offers(); }
 
 void QVOffersViewController::componentComplete()
 {
     QQuickItem::componentComplete();
-    if (window() && !m_loaded)
+    if (window() && !d_func()->m_loaded)
         viewDidLoad();
 }
 
@@ -185,7 +189,7 @@ void QVOffersViewController::itemChange(ItemChange change, const ItemChangeData 
     QQuickItem::itemChange(change, value);
     // Loading waits for the first window so that targeting set after creation applies
     // to the first request.
-    if (change == ItemSceneChange && value.window && !m_loaded && isComponentComplete())
+    if (change == ItemSceneChange && value.window && !d_func()->m_loaded && isComponentComplete())
         viewDidLoad();
     // Delegates the list builds ahead of need are built in the window's idle time rather
     // than inside a frame.
@@ -197,11 +201,11 @@ void QVOffersViewController::itemChange(ItemChange change, const ItemChangeData 
 
 void QVOffersViewController::viewDidLoad()
 {
-    m_loaded = true;
-    m_isFiltersViewOpen = false;
-    m_isSupportViewOpen = false;
-    m_offers->clear();
-    m_numberFormatter = std::make_unique<QVPayoutFormatter>();
+    d_func()->m_loaded = true;
+    d_func()->m_isFiltersViewOpen = false;
+    d_func()->m_isSupportViewOpen = false;
+    d_func()->m_offers->clear();
+    d_func()->m_numberFormatter = std::make_unique<QVPayoutFormatter>();
     // The first page as this wall would send it; a preload of the very same request
     // stands in for it and for the profile.
     quorva::detail::TransferRequest firstPage = quorva::detail::ServiceRequests::offersRequest(
@@ -217,13 +221,13 @@ void QVOffersViewController::viewDidLoad()
 
 bool QVOffersViewController::takePreload(const quorva::detail::TransferRequest &firstPage)
 {
-    QVOfferWallPreload *preload = m_preload;
-    m_preload = nullptr;
+    QVOfferWallPreload *preload = d_func()->m_preload;
+    d_func()->m_preload = nullptr;
     if (!preload || !preload->take(firstPage))
         return false;
-    m_preload = preload;
-    m_preloadOffersPending = true;
-    m_preloadProfilePending = true;
+    d_func()->m_preload = preload;
+    d_func()->m_preloadOffersPending = true;
+    d_func()->m_preloadProfilePending = true;
     setLoadingOffers(true);
     connect(preload, &QVOfferWallPreload::replyArrived, this, &QVOffersViewController::applyPreload);
     applyPreload();
@@ -233,12 +237,12 @@ bool QVOffersViewController::takePreload(const quorva::detail::TransferRequest &
 // Takes each reply of the preload as it would have taken its own request's.
 void QVOffersViewController::applyPreload()
 {
-    if (!m_preload)
+    if (!d_func()->m_preload)
         return;
-    const QVOfferWallPreload::Private &preload = m_preload->state();
+    const QVOfferWallPreload::Private &preload = d_func()->m_preload->state();
     using Reply = QVOfferWallPreload::Private::Reply;
-    if (m_preloadOffersPending && preload.offersReply != Reply::Pending) {
-        m_preloadOffersPending = false;
+    if (d_func()->m_preloadOffersPending && preload.offersReply != Reply::Pending) {
+        d_func()->m_preloadOffersPending = false;
         if (preload.offersReply == Reply::Arrived) {
             offersArrived(preload.offers, preload.moreOffers);
         } else {
@@ -246,25 +250,25 @@ void QVOffersViewController::applyPreload()
             offersFailed();
         }
     }
-    if (m_preloadProfilePending && preload.profileReply != Reply::Pending) {
-        m_preloadProfilePending = false;
+    if (d_func()->m_preloadProfilePending && preload.profileReply != Reply::Pending) {
+        d_func()->m_preloadProfilePending = false;
         if (preload.profileReply == Reply::Failed) {
             qCInfo(lcQuorva).noquote() << kProfileFailedLog;
-            m_profileFailed = true;
+            d_func()->m_profileFailed = true;
         } else if (preload.profile) {
             profileArrived(*preload.profile);
         }
     }
-    if (!m_preloadOffersPending && !m_preloadProfilePending) {
-        m_preload->disconnect(this);
-        m_preload->release();
-        m_preload = nullptr;
+    if (!d_func()->m_preloadOffersPending && !d_func()->m_preloadProfilePending) {
+        d_func()->m_preload->disconnect(this);
+        d_func()->m_preload->release();
+        d_func()->m_preload = nullptr;
     }
 }
 
 void QVOffersViewController::requestProfile()
 {
-    m_profileFailed = false;
+    d_func()->m_profileFailed = false;
     QPointer<QVOffersViewController> self(this);
     QuorvaRestAPI::sharedInstance()->fetchProfile(
         [self](const QVProfile &profile) {
@@ -274,40 +278,40 @@ void QVOffersViewController::requestProfile()
         [self] {
             qCInfo(lcQuorva).noquote() << kProfileFailedLog;
             if (self)
-                self->m_profileFailed = true;
+                self->d_func()->m_profileFailed = true;
         });
 }
 
 void QVOffersViewController::profileArrived(const QVProfile &profile)
 {
-    m_currencyName = profile.currencyName();
+    d_func()->m_currencyName = profile.currencyName();
     const QString name = profile.currencyName().isNull() ? QString(kAbsentText) : profile.currencyName();
     const QString title = tr(kEarnFormat).arg(name);
     // An open overlay keeps its own title; the wall's comes back when it closes.
-    if (m_isFiltersViewOpen || m_isSupportViewOpen)
-        m_lastHeaderTitle = title;
+    if (d_func()->m_isFiltersViewOpen || d_func()->m_isSupportViewOpen)
+        d_func()->m_lastHeaderTitle = title;
     else
         setHeaderText(title);
 }
 
 void QVOffersViewController::onRetryPressed()
 {
-    if (m_profileFailed)
+    if (d_func()->m_profileFailed)
         requestProfile();
     loadMoreOffers();
 }
 
 void QVOffersViewController::setLoadingOffers(bool loading)
 {
-    if (m_loadingOffers == loading)
+    if (d_func()->m_loadingOffers == loading)
         return;
-    m_loadingOffers = loading;
+    d_func()->m_loadingOffers = loading;
     emit loadingOffersChanged();
     if (loading) {
-        m_loadingIndicatorDelay->start();
+        d_func()->m_loadingIndicatorDelay->start();
     } else {
-        m_loadingIndicatorDelay->stop();
-        if (std::exchange(m_showsLoadingIndicator, false))
+        d_func()->m_loadingIndicatorDelay->stop();
+        if (std::exchange(d_func()->m_showsLoadingIndicator, false))
             emit showsLoadingIndicatorChanged();
     }
     updateLoadFailed();
@@ -315,38 +319,38 @@ void QVOffersViewController::setLoadingOffers(bool loading)
 
 void QVOffersViewController::setLastPageFailed(bool failed)
 {
-    m_lastPageFailed = failed;
+    d_func()->m_lastPageFailed = failed;
     updateLoadFailed();
 }
 
 void QVOffersViewController::updateLoadFailed()
 {
-    const bool failed = m_lastPageFailed && m_offers->count() == 0 && !m_loadingOffers;
-    if (m_loadFailed == failed)
+    const bool failed = d_func()->m_lastPageFailed && d_func()->m_offers->count() == 0 && !d_func()->m_loadingOffers;
+    if (d_func()->m_loadFailed == failed)
         return;
-    m_loadFailed = failed;
+    d_func()->m_loadFailed = failed;
     emit loadFailedChanged();
 }
 
 void QVOffersViewController::loadMoreOffers()
 {
-    if (m_loadingOffers)
+    if (d_func()->m_loadingOffers)
         return; // dropped, not queued
     setLoadingOffers(true);
 
     QString category;
     bool featured = false;
-    if (m_categoryParam) {
-        const QString name = m_categoryParam->categoryName();
+    if (d_func()->m_categoryParam) {
+        const QString name = d_func()->m_categoryParam->categoryName();
         if (name == QVFiltersViewController::featuredName())
             featured = true;
         else if (name != QVFiltersViewController::allCategoriesName())
-            category = m_categoryParam->categoryId();
+            category = d_func()->m_categoryParam->categoryId();
     }
-    const QString sort = m_sortParam ? m_sortParam->value() : QString();
+    const QString sort = d_func()->m_sortParam ? d_func()->m_sortParam->value() : QString();
     QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
     sendOffersRequest(quorva::detail::ServiceRequests::offersRequest(
-        api, quorva::detail::ServiceIdentity::of(api), quint64(m_offers->count()), sort, category, featured));
+        api, quorva::detail::ServiceIdentity::of(api), quint64(d_func()->m_offers->count()), sort, category, featured));
 }
 
 void QVOffersViewController::sendOffersRequest(quorva::detail::TransferRequest request)
@@ -367,12 +371,12 @@ void QVOffersViewController::sendOffersRequest(quorva::detail::TransferRequest r
 
 void QVOffersViewController::offersArrived(const QList<QVOffer> &offers, bool more)
 {
-    m_moreOffersAvailable = more;
-    m_offers->append(offers);
+    d_func()->m_moreOffersAvailable = more;
+    d_func()->m_offers->append(offers);
     reloadData();
     setLastPageFailed(false);
     setLoadingOffers(false);
-    if (!m_offersShown && !m_offersShownPending && m_offers->count() > 0)
+    if (!d_func()->m_offersShown && !d_func()->m_offersShownPending && d_func()->m_offers->count() > 0)
         watchForFirstOffersOnScreen();
 }
 
@@ -388,19 +392,19 @@ void QVOffersViewController::watchForFirstOffersOnScreen()
     QQuickWindow *host = window();
     if (!host)
         return;
-    m_offersShownPending = true;
-    m_framesSinceFirstOffers = 0;
+    d_func()->m_offersShownPending = true;
+    d_func()->m_framesSinceFirstOffers = 0;
     // The first swap may end a frame that was under way before the offers arrived; the
     // second one shows them. Swaps come from the render thread as queued calls, so
     // several may already wait when the first runs, and the disconnect below does not
     // take them back: the flag, not the connection, makes the signal come once.
     auto connection = std::make_shared<QMetaObject::Connection>();
     *connection = connect(host, &QQuickWindow::frameSwapped, this, [this, connection] {
-        if (m_offersShown || ++m_framesSinceFirstOffers < 2)
+        if (d_func()->m_offersShown || ++d_func()->m_framesSinceFirstOffers < 2)
             return;
         disconnect(*connection);
-        m_offersShownPending = false;
-        m_offersShown = true;
+        d_func()->m_offersShownPending = false;
+        d_func()->m_offersShown = true;
         emit offersShown();
     }, Qt::QueuedConnection);
     host->update();
@@ -417,24 +421,24 @@ void QVOffersViewController::reloadData()
 
 void QVOffersViewController::updatePolish()
 {
-    if (m_noOffersLabel)
-        m_noOffersLabel->setVisible(m_offers->count() == 0 && !m_loadingOffers);
+    if (d_func()->m_noOffersLabel)
+        d_func()->m_noOffersLabel->setVisible(d_func()->m_offers->count() == 0 && !d_func()->m_loadingOffers);
 }
 
 bool QVOffersViewController::configureCell(QVOfferUICollectionViewCell *cell, int row)
 {
-    if (!cell || row < 0 || row >= m_offers->count())
+    if (!cell || row < 0 || row >= d_func()->m_offers->count())
         return false;
-    const QVOffer &offer = m_offers->at(row);
+    const QVOffer &offer = d_func()->m_offers->at(row);
     cell->setOfferName(offer.offerName());
     cell->setOfferDescription(offer.offerDescription());
-    if (m_numberFormatter)
-        cell->setPayoutTitle(m_numberFormatter->payoutTitle(offer.currencyCount()));
+    if (d_func()->m_numberFormatter)
+        cell->setPayoutTitle(d_func()->m_numberFormatter->payoutTitle(offer.currencyCount()));
     if (cell->thumbImage())
         cell->thumbImage()->setImageWithURL(QUrl(offer.imageURL()));
     cell->setClickURL(offer.clickURL());
     cell->setDelegate(this);
-    if (row == m_offers->count() - 1 && m_moreOffersAvailable)
+    if (row == d_func()->m_offers->count() - 1 && d_func()->m_moreOffersAvailable)
         loadMoreOffers();
     return true;
 }
@@ -446,7 +450,7 @@ void QVOffersViewController::onCreditsPressed(const QString &clickURL)
         return;
     QDesktopServices::openUrl(url);
     // The cell names its offer by its address; the first offer with it is the one shown.
-    const QList<QVOffer> &offers = m_offers->offers();
+    const QList<QVOffer> &offers = d_func()->m_offers->offers();
     const auto offer = std::find_if(offers.cbegin(), offers.cend(),
                                     [&clickURL](const QVOffer &o) { return o.clickURL() == clickURL; });
     if (offer != offers.cend()) {
@@ -460,18 +464,18 @@ void QVOffersViewController::onCreditsPressed(const QString &clickURL)
 
 void QVOffersViewController::setCreditsWatcher(QVCreditsWatcher *watcher)
 {
-    if (m_creditsWatcher == watcher)
+    if (d_func()->m_creditsWatcher == watcher)
         return;
-    disconnect(m_creditsConnection);
-    m_creditsWatcher = watcher;
+    disconnect(d_func()->m_creditsConnection);
+    d_func()->m_creditsWatcher = watcher;
     if (watcher)
-        m_creditsConnection = connect(watcher, &QVCreditsWatcher::creditsReceived, this,
+        d_func()->m_creditsConnection = connect(watcher, &QVCreditsWatcher::creditsReceived, this,
                                       &QVOffersViewController::creditsReceived);
 }
 
 QVCreditsWatcher *QVOffersViewController::creditsWatcher() const
 {
-    return m_creditsWatcher;
+    return d_func()->m_creditsWatcher;
 }
 
 void QVOffersViewController::creditsReceived(const QList<QVTransaction> &transactions)
@@ -479,8 +483,8 @@ void QVOffersViewController::creditsReceived(const QList<QVTransaction> &transac
     if (!window() || !isVisible())
         return;
     // Several credits in a row add up to one notice; a reversal is not a credit.
-    const double before = m_creditNoticeShown ? m_creditNoticeSum : 0;
-    QStringList offers = m_creditNoticeShown ? m_creditNoticeOffers : QStringList();
+    const double before = d_func()->m_creditNoticeShown ? d_func()->m_creditNoticeSum : 0;
+    QStringList offers = d_func()->m_creditNoticeShown ? d_func()->m_creditNoticeOffers : QStringList();
     double sum = before;
     for (const QVTransaction &transaction : transactions) {
         const double amount = transaction.currencyAdjustment().toDouble();
@@ -492,41 +496,41 @@ void QVOffersViewController::creditsReceived(const QList<QVTransaction> &transac
     }
     if (sum == before)
         return;
-    m_creditNoticeSum = sum;
-    m_creditNoticeOffers = offers;
+    d_func()->m_creditNoticeSum = sum;
+    d_func()->m_creditNoticeOffers = offers;
     const QString amount = QVPayoutFormatter().payoutTitle(QString::number(sum, 'g', 17));
-    const QString text = m_currencyName.isEmpty() ? amount : QString(kCreditFormat).arg(amount, m_currencyName);
+    const QString text = d_func()->m_currencyName.isEmpty() ? amount : QString(kCreditFormat).arg(amount, d_func()->m_currencyName);
     setCreditNotice(true, text, offers.join(kCreditOffersSeparator));
-    m_creditNoticeTimer->start();
-    if (m_creditNotice) {
-        QAccessibleEvent announcement(m_creditNotice, QAccessible::Alert);
+    d_func()->m_creditNoticeTimer->start();
+    if (d_func()->m_creditNotice) {
+        QAccessibleEvent announcement(d_func()->m_creditNotice, QAccessible::Alert);
         QAccessible::updateAccessibility(&announcement);
     }
 }
 
 void QVOffersViewController::dismissCreditNotice()
 {
-    m_creditNoticeTimer->stop();
-    m_creditNoticeSum = 0;
-    m_creditNoticeOffers.clear();
-    setCreditNotice(false, m_creditNoticeText, m_creditNoticeDetail);
+    d_func()->m_creditNoticeTimer->stop();
+    d_func()->m_creditNoticeSum = 0;
+    d_func()->m_creditNoticeOffers.clear();
+    setCreditNotice(false, d_func()->m_creditNoticeText, d_func()->m_creditNoticeDetail);
 }
 
 void QVOffersViewController::setCreditNotice(bool shown, const QString &text, const QString &detail)
 {
-    if (m_creditNoticeShown == shown && m_creditNoticeText == text && m_creditNoticeDetail == detail)
+    if (d_func()->m_creditNoticeShown == shown && d_func()->m_creditNoticeText == text && d_func()->m_creditNoticeDetail == detail)
         return;
-    m_creditNoticeShown = shown;
-    m_creditNoticeText = text;
-    m_creditNoticeDetail = detail;
+    d_func()->m_creditNoticeShown = shown;
+    d_func()->m_creditNoticeText = text;
+    d_func()->m_creditNoticeDetail = detail;
     emit creditNoticeChanged();
 }
 
 void QVOffersViewController::onClosePressed()
 {
     emit closePressed();
-    if (m_delegate)
-        m_delegate->onCloseOffersVCPressed();
+    if (d_func()->m_delegate)
+        d_func()->m_delegate->onCloseOffersVCPressed();
 }
 
 void QVOffersViewController::showFailureAlert()
@@ -536,12 +540,211 @@ void QVOffersViewController::showFailureAlert()
 
 void QVOffersViewController::setHeaderText(const QString &text)
 {
-    if (m_headerTitle)
-        m_headerTitle->setProperty("text", text);
+    if (d_func()->m_headerTitle)
+        d_func()->m_headerTitle->setProperty("text", text);
 }
 
 QString QVOffersViewController::headerText() const
 {
-    return m_headerTitle ? m_headerTitle->property("text").toString() : QString();
+    return d_func()->m_headerTitle ? d_func()->m_headerTitle->property("text").toString() : QString();
 }
 
+bool  QVOffersViewController::creditNoticeShown() const
+{
+    return d_func()->m_creditNoticeShown;
+}
+
+QString  QVOffersViewController::creditNoticeText() const
+{
+    return d_func()->m_creditNoticeText;
+}
+
+QString  QVOffersViewController::creditNoticeDetail() const
+{
+    return d_func()->m_creditNoticeDetail;
+}
+
+QVTheme  QVOffersViewController::theme() const
+{
+    return d_func()->m_theme;
+}
+
+bool  QVOffersViewController::isRightToLeft() const
+{
+    return d_func()->m_rightToLeft;
+}
+
+QVOffersViewControllerDelegate *QVOffersViewController::delegate() const
+{
+    return d_func()->m_delegate;
+}
+
+void  QVOffersViewController::setDelegate(QVOffersViewControllerDelegate *delegate)
+{
+    d_func()->m_delegate = delegate;
+}
+
+bool  QVOffersViewController::showsLoadingIndicator() const
+{
+    return d_func()->m_showsLoadingIndicator;
+}
+
+bool  QVOffersViewController::loadingOffers() const
+{
+    return d_func()->m_loadingOffers;
+}
+
+bool  QVOffersViewController::loadFailed() const
+{
+    return d_func()->m_loadFailed;
+}
+
+bool  QVOffersViewController::isFiltersViewOpen() const
+{
+    return d_func()->m_isFiltersViewOpen;
+}
+
+bool  QVOffersViewController::isOverlayAnimating() const
+{
+    return d_func()->m_runningSlides > 0;
+}
+
+bool  QVOffersViewController::moreOffersAvailable() const
+{
+    return d_func()->m_moreOffersAvailable;
+}
+
+bool  QVOffersViewController::isSupportViewOpen() const
+{
+    return d_func()->m_isSupportViewOpen;
+}
+
+QVFiltersViewController *QVOffersViewController::filterVC() const
+{
+    return d_func()->m_filterVC;
+}
+
+QVSupportViewController *QVOffersViewController::supportVC() const
+{
+    return d_func()->m_supportVC;
+}
+
+std::optional<QVSort>  QVOffersViewController::sortParam() const
+{
+    return d_func()->m_sortParam;
+}
+
+std::optional<QVCategory>  QVOffersViewController::categoryParam() const
+{
+    return d_func()->m_categoryParam;
+}
+
+QQuickItem *QVOffersViewController::headerView() const
+{
+    return d_func()->m_headerView;
+}
+
+void QVOffersViewController::setHeaderView(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_headerView, value))
+        emit outletsChanged();
+}
+
+QQuickItem *QVOffersViewController::headerTitle() const
+{
+    return d_func()->m_headerTitle;
+}
+
+void QVOffersViewController::setHeaderTitle(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_headerTitle, value))
+        emit outletsChanged();
+}
+
+QQuickItem *QVOffersViewController::closeBtn() const
+{
+    return d_func()->m_closeBtn;
+}
+
+void QVOffersViewController::setCloseBtn(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_closeBtn, value))
+        emit outletsChanged();
+}
+
+QQuickItem *QVOffersViewController::filterBtn() const
+{
+    return d_func()->m_filterBtn;
+}
+
+void QVOffersViewController::setFilterBtn(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_filterBtn, value))
+        emit outletsChanged();
+}
+
+QQuickItem *QVOffersViewController::supportBtn() const
+{
+    return d_func()->m_supportBtn;
+}
+
+void QVOffersViewController::setSupportBtn(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_supportBtn, value))
+        emit outletsChanged();
+}
+
+QQuickItem *QVOffersViewController::collectionView() const
+{
+    return d_func()->m_collectionView;
+}
+
+void QVOffersViewController::setCollectionView(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_collectionView, value))
+        emit outletsChanged();
+}
+
+QQuickItem *QVOffersViewController::noOffersLabel() const
+{
+    return d_func()->m_noOffersLabel;
+}
+
+void QVOffersViewController::setNoOffersLabel(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_noOffersLabel, value))
+        emit outletsChanged();
+}
+
+QObject *QVOffersViewController::filterPopover() const
+{
+    return d_func()->m_filterPopover;
+}
+
+void QVOffersViewController::setFilterPopover(QObject *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_filterPopover, value))
+        emit outletsChanged();
+}
+
+QObject *QVOffersViewController::supportPopover() const
+{
+    return d_func()->m_supportPopover;
+}
+
+void QVOffersViewController::setSupportPopover(QObject *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_supportPopover, value))
+        emit outletsChanged();
+}
+
+QQuickItem *QVOffersViewController::creditNotice() const
+{
+    return d_func()->m_creditNotice;
+}
+
+void QVOffersViewController::setCreditNotice(QQuickItem *value)
+{
+    if (quorva::detail::assignIfChanged(d_func()->m_creditNotice, value))
+        emit outletsChanged();
+}

@@ -15,6 +15,7 @@
 #include <QtCore/QAbstractItemModel>
 #include <QtQuick/QQuickItem>
 
+#include <memory>
 #include <optional>
 
 class QAbstractAnimation;
@@ -26,6 +27,8 @@ class QVOffersListModel;
 class QVPayoutFormatter;
 namespace quorva::detail { struct TransferRequest; }
 
+
+class QVOffersViewControllerPrivate;
 
 /// The host's listener: told once, when the user presses close.
 class QUORVAMEDIA_EXPORT QVOffersViewControllerDelegate
@@ -64,23 +67,23 @@ class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
     /// See #subid2.
     Q_PROPERTY(QString subid4 READ subid4 WRITE setSubid4 NOTIFY targetingChanged FINAL)
     /// The header bar: an outlet, an item of the wall's interface file set when it is built.
-    Q_PROPERTY(QQuickItem *headerView MEMBER m_headerView NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *headerView READ headerView WRITE setHeaderView NOTIFY outletsChanged FINAL)
     /// The header's title text.
-    Q_PROPERTY(QQuickItem *headerTitle MEMBER m_headerTitle NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *headerTitle READ headerTitle WRITE setHeaderTitle NOTIFY outletsChanged FINAL)
     /// The close button in the header.
-    Q_PROPERTY(QQuickItem *closeBtn MEMBER m_closeBtn NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *closeBtn READ closeBtn WRITE setCloseBtn NOTIFY outletsChanged FINAL)
     /// The button that opens the sort and filter panel.
-    Q_PROPERTY(QQuickItem *filterBtn MEMBER m_filterBtn NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *filterBtn READ filterBtn WRITE setFilterBtn NOTIFY outletsChanged FINAL)
     /// The button that opens the support centre.
-    Q_PROPERTY(QQuickItem *supportBtn MEMBER m_supportBtn NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *supportBtn READ supportBtn WRITE setSupportBtn NOTIFY outletsChanged FINAL)
     /// The list of offers.
-    Q_PROPERTY(QQuickItem *collectionView MEMBER m_collectionView NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *collectionView READ collectionView WRITE setCollectionView NOTIFY outletsChanged FINAL)
     /// The text shown when the service has no offers.
-    Q_PROPERTY(QQuickItem *noOffersLabel MEMBER m_noOffersLabel NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *noOffersLabel READ noOffersLabel WRITE setNoOffersLabel NOTIFY outletsChanged FINAL)
     /// The sort and filter panel's popover on a tablet, built when first presented.
-    Q_PROPERTY(QObject *filterPopover MEMBER m_filterPopover NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QObject *filterPopover READ filterPopover WRITE setFilterPopover NOTIFY outletsChanged FINAL)
     /// The support centre's popover on a tablet, built when first presented.
-    Q_PROPERTY(QObject *supportPopover MEMBER m_supportPopover NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QObject *supportPopover READ supportPopover WRITE setSupportPopover NOTIFY outletsChanged FINAL)
     /// The offers loaded so far, as the list shows them. Owned by the wall.
     Q_PROPERTY(QAbstractItemModel *offersModel READ offersModel CONSTANT FINAL)
     /// The size of one offer cell at the wall's current width, in points.
@@ -110,7 +113,7 @@ class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
     /// then shows a "Try again" button.
     Q_PROPERTY(bool loadFailed READ loadFailed NOTIFY loadFailedChanged FINAL)
     /// The credit notice under the header (an outlet, set by the interface file).
-    Q_PROPERTY(QQuickItem *creditNotice MEMBER m_creditNotice NOTIFY outletsChanged FINAL)
+    Q_PROPERTY(QQuickItem *creditNotice READ creditNotice WRITE setCreditNotice NOTIFY outletsChanged FINAL)
     /// Every screen, panel, popover and alert of the wall reads its colours from here.
     Q_PROPERTY(QVTheme theme READ theme WRITE setTheme NOTIFY themeChanged FINAL)
     /// The wall's language reads right to left: every screen is mirrored.
@@ -153,26 +156,26 @@ public:
     QVCreditsWatcher *creditsWatcher() const;
     ///@{
     /// The credit notice, as the properties of the same names describe it.
-    bool creditNoticeShown() const { return m_creditNoticeShown; }
-    QString creditNoticeText() const { return m_creditNoticeText; }
-    QString creditNoticeDetail() const { return m_creditNoticeDetail; }
+    bool creditNoticeShown() const;
+    QString creditNoticeText() const;
+    QString creditNoticeDetail() const;
     ///@}
     /// How long the credit notice shows, in milliseconds.
     static constexpr int kCreditNoticeMs = 4000;
 
     /// The wall's colours. Until a host sets one, the wall follows the system's light or
     /// dark look, also while it is open.
-    QVTheme theme() const { return m_theme; }
+    QVTheme theme() const;
     /// True when the wall's language reads right to left: every screen is mirrored.
-    bool isRightToLeft() const { return m_rightToLeft; }
+    bool isRightToLeft() const;
     /// Sets the wall's colours; from then on the wall no longer follows the system's
     /// light or dark look. Every open screen and panel repaints at once.
     void setTheme(const QVTheme &theme);
 
     ///@{
     /// The listener told of the close button; not owned, may be null.
-    QVOffersViewControllerDelegate *delegate() const { return m_delegate; }
-    void setDelegate(QVOffersViewControllerDelegate *delegate) { m_delegate = delegate; }
+    QVOffersViewControllerDelegate *delegate() const;
+    void setDelegate(QVOffersViewControllerDelegate *delegate);
     ///@}
 
     ///@{
@@ -212,31 +215,31 @@ public:
     QSizeF cellSize() const { return sizeForItem(width()); }
     int columns() const { return width() > kTwoColumnMinimumWidth ? 2 : 1; }
     int offerCount() const;
-    bool showsLoadingIndicator() const { return m_showsLoadingIndicator; }
+    bool showsLoadingIndicator() const;
     static qreal sectionInsetTop() { return 5; }
     static qreal headerHeight() { return 80; }
     static qreal supportTop() { return 80; }
     static qreal popoverWidth() { return 360; }
     QAbstractItemModel *offersModel() const;
-    bool loadingOffers() const { return m_loadingOffers; }
-    bool loadFailed() const { return m_loadFailed; }
-    bool isFiltersViewOpen() const { return m_isFiltersViewOpen; }
-    bool isOverlayAnimating() const { return m_runningSlides > 0; }
+    bool loadingOffers() const;
+    bool loadFailed() const;
+    bool isFiltersViewOpen() const;
+    bool isOverlayAnimating() const;
     ///@}
     /// The offers loaded so far, in the list's order.
     const QList<QVOffer> &offersList() const;
     /// True while the service may have another page.
-    bool moreOffersAvailable() const { return m_moreOffersAvailable; }
+    bool moreOffersAvailable() const;
     /// True while the support centre is open.
-    bool isSupportViewOpen() const { return m_isSupportViewOpen; }
+    bool isSupportViewOpen() const;
     /// The sort and filter panel, while it exists; owned by the wall.
-    QVFiltersViewController *filterVC() const { return m_filterVC; }
+    QVFiltersViewController *filterVC() const;
     /// The support centre, while it exists; owned by the wall.
-    QVSupportViewController *supportVC() const { return m_supportVC; }
+    QVSupportViewController *supportVC() const;
     /// The sort order the user saved, if any.
-    std::optional<QVSort> sortParam() const { return m_sortParam; }
+    std::optional<QVSort> sortParam() const;
     /// The category the user saved, if any.
-    std::optional<QVCategory> categoryParam() const { return m_categoryParam; }
+    std::optional<QVCategory> categoryParam() const;
 
     /// What the close button does: emits closePressed() and tells the delegate.
     Q_INVOKABLE void onClosePressed();
@@ -345,58 +348,30 @@ private:
     Q_DECL_HIDDEN int firstOfferOnScreen() const;
     Q_DECL_HIDDEN qreal listWidth() const;
 
-    QVOffersViewControllerDelegate *m_delegate = nullptr;
-    QVOffersListModel *m_offers = nullptr;
-    std::unique_ptr<QVPayoutFormatter> m_numberFormatter;
-    bool m_loaded = false;
-    bool m_loadingOffers = false;
-    bool m_moreOffersAvailable = false;
-    bool m_lastPageFailed = false;
-    bool m_loadFailed = false;
-    bool m_profileFailed = false;
-    bool m_showsLoadingIndicator = false;
-    QTimer *m_loadingIndicatorDelay = nullptr;
-    std::optional<QVSort> m_sortParam;
-    std::optional<QVCategory> m_categoryParam;
-    QPointer<QVFiltersViewController> m_filterVC;
-    QPointer<QQuickItem> m_blurView;
-    QPointer<QPropertyAnimation> m_filterAnimation;
-    QPointer<QVSupportViewController> m_supportVC;
-    QPointer<QPropertyAnimation> m_supportAnimation;
-    QString m_lastHeaderTitle;
-    bool m_isFiltersViewOpen = false;
-    bool m_isSupportViewOpen = false;
-    int m_runningSlides = 0;
 
-    /// Outlets: children laid out by the interface file.
-    QQuickItem *m_headerView = nullptr;
-    QQuickItem *m_headerTitle = nullptr;
-    QQuickItem *m_closeBtn = nullptr;
-    QQuickItem *m_filterBtn = nullptr;
-    QQuickItem *m_supportBtn = nullptr;
-    QQuickItem *m_collectionView = nullptr;
-    QQuickItem *m_noOffersLabel = nullptr;
-    QObject *m_filterPopover = nullptr;
-    QObject *m_supportPopover = nullptr;
 
-    /// Added after 1.1.0: kept last so the members above keep their places.
-    QPointer<QVOfferWallPreload> m_preload;
-    bool m_preloadOffersPending = false;
-    bool m_preloadProfilePending = false;
-    bool m_offersShownPending = false;
-    bool m_offersShown = false;
-    int m_framesSinceFirstOffers = 0;
-    QString m_currencyName;
-    QPointer<QVCreditsWatcher> m_creditsWatcher;
-    QMetaObject::Connection m_creditsConnection;
-    QTimer *m_creditNoticeTimer = nullptr;
-    double m_creditNoticeSum = 0;
-    QStringList m_creditNoticeOffers;
-    bool m_creditNoticeShown = false;
-    QString m_creditNoticeText;
-    QString m_creditNoticeDetail;
-    QQuickItem *m_creditNotice = nullptr;
-    QVTheme m_theme;
-    bool m_themeSet = false;
-    bool m_rightToLeft = false;
+    // The interface file reads and writes the outlets through their properties.
+    Q_DECL_HIDDEN QQuickItem *headerView() const;
+    Q_DECL_HIDDEN void setHeaderView(QQuickItem *value);
+    Q_DECL_HIDDEN QQuickItem *headerTitle() const;
+    Q_DECL_HIDDEN void setHeaderTitle(QQuickItem *value);
+    Q_DECL_HIDDEN QQuickItem *closeBtn() const;
+    Q_DECL_HIDDEN void setCloseBtn(QQuickItem *value);
+    Q_DECL_HIDDEN QQuickItem *filterBtn() const;
+    Q_DECL_HIDDEN void setFilterBtn(QQuickItem *value);
+    Q_DECL_HIDDEN QQuickItem *supportBtn() const;
+    Q_DECL_HIDDEN void setSupportBtn(QQuickItem *value);
+    Q_DECL_HIDDEN QQuickItem *collectionView() const;
+    Q_DECL_HIDDEN void setCollectionView(QQuickItem *value);
+    Q_DECL_HIDDEN QQuickItem *noOffersLabel() const;
+    Q_DECL_HIDDEN void setNoOffersLabel(QQuickItem *value);
+    Q_DECL_HIDDEN QObject *filterPopover() const;
+    Q_DECL_HIDDEN void setFilterPopover(QObject *value);
+    Q_DECL_HIDDEN QObject *supportPopover() const;
+    Q_DECL_HIDDEN void setSupportPopover(QObject *value);
+    Q_DECL_HIDDEN QQuickItem *creditNotice() const;
+    Q_DECL_HIDDEN void setCreditNotice(QQuickItem *value);
+
+    Q_DECLARE_PRIVATE_D(m_d, QVOffersViewController)
+    std::unique_ptr<QVOffersViewControllerPrivate> m_d;
 };

@@ -1,6 +1,7 @@
 // The wall's two overlays, the filter panel and the support centre: on a phone they
 // slide over the list under the header; on a tablet they are popovers under their button.
 #include "QVOffersViewController.h"
+#include "QVOffersViewControllerPrivate.h"
 #include "QVComponentFactory.h"
 #include "QVDevice.h"
 #include "QVOffersListModel.h"
@@ -31,29 +32,29 @@ QQuickItem *popoverHost(QObject *popover)
 
 qreal QVOffersViewController::listHeight() const
 {
-    return m_collectionView ? m_collectionView->height() : height();
+    return d_func()->m_collectionView ? d_func()->m_collectionView->height() : height();
 }
 
 qreal QVOffersViewController::listWidth() const
 {
-    return m_collectionView ? m_collectionView->width() : width();
+    return d_func()->m_collectionView ? d_func()->m_collectionView->width() : width();
 }
 
 void QVOffersViewController::headerTapped()
 {
-    if (m_isFiltersViewOpen)
+    if (d_func()->m_isFiltersViewOpen)
         closeFiltersView();
-    if (m_isSupportViewOpen)
+    if (d_func()->m_isSupportViewOpen)
         closeSupportView();
 }
 
 void QVOffersViewController::onFilterPressed()
 {
-    if (m_isSupportViewOpen) {
+    if (d_func()->m_isSupportViewOpen) {
         closeSupportView();
         return;
     }
-    if (!m_isFiltersViewOpen) {
+    if (!d_func()->m_isFiltersViewOpen) {
         auto *panel = QVComponentFactory::create<QVFiltersViewController>(qmlEngine(this), kFiltersType, {},
                                                                             qmlContext(this));
         if (!panel)
@@ -61,81 +62,81 @@ void QVOffersViewController::onFilterPressed()
         // Owned by the wall: a panel still sliding out when the wall goes goes with it.
         panel->setParent(this);
         panel->setDelegate(this);
-        panel->setCategoryParam(m_categoryParam);
-        panel->setSortParam(m_sortParam);
+        panel->setCategoryParam(d_func()->m_categoryParam);
+        panel->setSortParam(d_func()->m_sortParam);
         // On a phone the panel's rows begin below the wall's header.
         panel->setTopMargin(headerHeight());
         panel->viewDidLoad();
-        m_filterVC = panel;
+        d_func()->m_filterVC = panel;
     }
     if (QVDevice::isTablet()) {
-        presentInPopover(popover(m_filterPopover, "QVPopover", "filterPopover"), m_filterBtn, m_filterVC);
+        presentInPopover(popover(d_func()->m_filterPopover, "QVPopover", "filterPopover"), d_func()->m_filterBtn, d_func()->m_filterVC);
         return;
     }
-    if (m_isFiltersViewOpen) {
+    if (d_func()->m_isFiltersViewOpen) {
         closeFiltersView();
         return;
     }
 
-    QVFiltersViewController *panel = m_filterVC;
+    QVFiltersViewController *panel = d_func()->m_filterVC;
     attachPhoneOverlay(panel, tr(kFiltersTitle));
     panel->setClip(true);
-    m_blurView = QVComponentFactory::create<QQuickItem>(
-        qmlEngine(this), kBlurViewType, {{QStringLiteral("sourceItem"), QVariant::fromValue(m_collectionView)}},
+    d_func()->m_blurView = QVComponentFactory::create<QQuickItem>(
+        qmlEngine(this), kBlurViewType, {{QStringLiteral("sourceItem"), QVariant::fromValue(d_func()->m_collectionView)}},
         qmlContext(this));
-    if (m_blurView) {
-        m_blurView->setParent(panel);
-        m_blurView->setParentItem(panel);
-        m_blurView->setZ(-1);
+    if (d_func()->m_blurView) {
+        d_func()->m_blurView->setParent(panel);
+        d_func()->m_blurView->setParentItem(panel);
+        d_func()->m_blurView->setZ(-1);
         connect(panel, &QQuickItem::yChanged, this, &QVOffersViewController::layoutFilterPanel);
     }
     panel->setY(-listHeight());
     layoutFilterPanel();
     slide(panel, "y", 0, Slide::OpenFilters, false);
-    setPhoneOverlayOpen(m_isFiltersViewOpen, true);
+    setPhoneOverlayOpen(d_func()->m_isFiltersViewOpen, true);
 }
 
 void QVOffersViewController::attachPhoneOverlay(QQuickItem *panel, const QString &title)
 {
-    m_lastHeaderTitle = headerText();
+    d_func()->m_lastHeaderTitle = headerText();
     setHeaderText(title);
     panel->setParentItem(this);
     panel->setZ(1);
-    if (m_headerView)
-        m_headerView->setZ(2); // the header stays above the panel
+    if (d_func()->m_headerView)
+        d_func()->m_headerView->setZ(2); // the header stays above the panel
 }
 
 void QVOffersViewController::setPhoneOverlayOpen(bool &flag, bool open)
 {
     // The close button is hidden for exactly as long as a phone overlay is open.
-    if (m_closeBtn)
-        m_closeBtn->setVisible(!open);
+    if (d_func()->m_closeBtn)
+        d_func()->m_closeBtn->setVisible(!open);
     flag = open;
     if (!open)
-        setHeaderText(m_lastHeaderTitle);
+        setHeaderText(d_func()->m_lastHeaderTitle);
     emit overlaysChanged();
 }
 
 void QVOffersViewController::layoutFilterPanel()
 {
-    if (!m_filterVC || m_filterVC->parentItem() != this)
+    if (!d_func()->m_filterVC || d_func()->m_filterVC->parentItem() != this)
         return;
-    m_filterVC->setX(0);
-    m_filterVC->setSize(size());
+    d_func()->m_filterVC->setX(0);
+    d_func()->m_filterVC->setSize(size());
     // The blur stays over the list while the panel moves, so the panel shows the
     // blurred content beneath it.
-    if (m_blurView && m_blurView->parentItem() == m_filterVC && m_collectionView) {
-        m_blurView->setPosition(m_collectionView->position() - m_filterVC->position());
-        m_blurView->setSize(m_collectionView->size());
+    if (d_func()->m_blurView && d_func()->m_blurView->parentItem() == d_func()->m_filterVC && d_func()->m_collectionView) {
+        d_func()->m_blurView->setPosition(d_func()->m_collectionView->position() - d_func()->m_filterVC->position());
+        d_func()->m_blurView->setSize(d_func()->m_collectionView->size());
     }
 }
 
 void QVOffersViewController::layoutSupportPanel()
 {
-    if (!m_supportVC || m_supportVC->parentItem() != this)
+    if (!d_func()->m_supportVC || d_func()->m_supportVC->parentItem() != this)
         return;
-    m_supportVC->setY(supportTop());
-    m_supportVC->setSize({width(), qMax<qreal>(0, height() - supportTop())});
+    d_func()->m_supportVC->setY(supportTop());
+    d_func()->m_supportVC->setSize({width(), qMax<qreal>(0, height() - supportTop())});
 }
 
 void QVOffersViewController::slide(QQuickItem *panel, const char *property, qreal to, Slide kind, bool detachWhenDone)
@@ -144,7 +145,7 @@ void QVOffersViewController::slide(QQuickItem *panel, const char *property, qrea
                                                    : QVSpringCurve::Motion::PanelSlide;
     // Only a motion of this same panel is replaced; an earlier panel that is still
     // sliding out finishes and detaches itself.
-    QPointer<QPropertyAnimation> &running = panel == m_supportVC ? m_supportAnimation : m_filterAnimation;
+    QPointer<QPropertyAnimation> &running = panel == d_func()->m_supportVC ? d_func()->m_supportAnimation : d_func()->m_filterAnimation;
     if (running && running->targetObject() == panel)
         running->stop();
     auto *animation = new QPropertyAnimation(panel, property, panel);
@@ -167,62 +168,62 @@ void QVOffersViewController::slide(QQuickItem *panel, const char *property, qrea
 
 void QVOffersViewController::trackSlide(QAbstractAnimation *animation)
 {
-    if (m_runningSlides++ == 0)
+    if (d_func()->m_runningSlides++ == 0)
         emit overlayAnimatingChanged();
     // Stopped or replaced, an animation is destroyed once; that ends its slide.
     connect(animation, &QObject::destroyed, this, [this] {
-        if (--m_runningSlides == 0)
+        if (--d_func()->m_runningSlides == 0)
             emit overlayAnimatingChanged();
     });
 }
 
 void QVOffersViewController::closeFiltersView()
 {
-    if (m_filterVC && m_filterVC->parentItem() == this)
-        slide(m_filterVC, "y", -listHeight(), Slide::Other, true);
-    setPhoneOverlayOpen(m_isFiltersViewOpen, false);
+    if (d_func()->m_filterVC && d_func()->m_filterVC->parentItem() == this)
+        slide(d_func()->m_filterVC, "y", -listHeight(), Slide::Other, true);
+    setPhoneOverlayOpen(d_func()->m_isFiltersViewOpen, false);
 }
 
 void QVOffersViewController::onSupportPressed()
 {
-    if (m_isFiltersViewOpen) {
+    if (d_func()->m_isFiltersViewOpen) {
         closeFiltersView();
         return;
     }
-    if (!m_isSupportViewOpen) {
+    if (!d_func()->m_isSupportViewOpen) {
         auto *support = QVComponentFactory::create<QVSupportViewController>(qmlEngine(this), kSupportType, {},
                                                                             qmlContext(this));
         if (!support)
             return;
         support->setParent(this);
         support->setObjectName(QStringLiteral("supportVC"));
-        m_supportVC = support;
+        d_func()->m_supportVC = support;
     }
     if (QVDevice::isTablet()) {
-        presentInPopover(popover(m_supportPopover, "QVSupportPopover", "supportPopover"), m_supportBtn, m_supportVC);
+        presentInPopover(popover(d_func()->m_supportPopover, "QVSupportPopover", "supportPopover"), d_func()->m_supportBtn, d_func()->m_supportVC);
         return;
     }
-    if (m_isSupportViewOpen) {
+    if (d_func()->m_isSupportViewOpen) {
         closeSupportView();
         return;
     }
 
-    QVSupportViewController *support = m_supportVC;
+    QVSupportViewController *support = d_func()->m_supportVC;
     attachPhoneOverlay(support, tr(kSupportTitle));
     // In from the right, under the header.
     // It comes in from the reading side's far edge: the right, or the left in a
     // right-to-left language.
-    support->setX(m_rightToLeft ? -listWidth() : listWidth());
+    support->setX(d_func()->m_rightToLeft ? -listWidth() : listWidth());
     layoutSupportPanel();
     slide(support, "x", 0, Slide::Other, false);
-    setPhoneOverlayOpen(m_isSupportViewOpen, true);
+    setPhoneOverlayOpen(d_func()->m_isSupportViewOpen, true);
 }
 
 void QVOffersViewController::closeSupportView()
 {
-    if (m_supportVC && m_supportVC->parentItem() == this)
-        slide(m_supportVC, "x", m_rightToLeft ? -listWidth() : listWidth(), Slide::Other, true);
-    setPhoneOverlayOpen(m_isSupportViewOpen, false);
+    if (d_func()->m_supportVC && d_func()->m_supportVC->parentItem() == this)
+        slide(d_func()->m_supportVC, "x", d_func()->m_rightToLeft ? -listWidth() : listWidth(), Slide::Other, true);
+    setPhoneOverlayOpen(d_func()->m_isSupportViewOpen, false);
 }
 
 QObject *QVOffersViewController::popover(QObject *&popover, const char *typeName, const char *objectName)
@@ -299,7 +300,7 @@ void QVOffersViewController::popoverDidDismiss(QObject *popover)
     // The panel in the popover goes with it; the next press builds a new one.
     if (QQuickItem *host = popoverHost(popover)) {
         for (QQuickItem *panel : host->childItems()) {
-            if (panel == m_filterVC || panel == m_supportVC) {
+            if (panel == d_func()->m_filterVC || panel == d_func()->m_supportVC) {
                 panel->setParentItem(nullptr);
                 panel->deleteLater();
             }
@@ -317,33 +318,33 @@ void QVOffersViewController::dismissPopover(QObject *popover)
 
 void QVOffersViewController::closeSupportPopover()
 {
-    dismissPopover(m_supportPopover);
+    dismissPopover(d_func()->m_supportPopover);
 }
 
 void QVOffersViewController::onSaveFiltersPressed(const std::optional<QVCategory> &category, const QVSort &sort)
 {
-    m_categoryParam = category;
-    m_sortParam = sort;
-    m_offers->clear();
+    d_func()->m_categoryParam = category;
+    d_func()->m_sortParam = sort;
+    d_func()->m_offers->clear();
     updateLoadFailed();
     reloadData();
     loadMoreOffers();
-    if (m_closeBtn)
-        m_closeBtn->setVisible(true);
+    if (d_func()->m_closeBtn)
+        d_func()->m_closeBtn->setVisible(true);
     closeFiltersView();
     if (QVDevice::isTablet())
-        dismissPopover(m_filterPopover);
+        dismissPopover(d_func()->m_filterPopover);
 }
 
 int QVOffersViewController::firstOfferOnScreen() const
 {
-    if (!m_collectionView)
+    if (!d_func()->m_collectionView)
         return -1;
     // The row under the list's top edge, a point into it so a row's own top counts.
-    const qreal y = m_collectionView->property("contentY").toReal() + 1;
+    const qreal y = d_func()->m_collectionView->property("contentY").toReal() + 1;
     int row = -1;
-    QMetaObject::invokeMethod(m_collectionView, "indexAt", Q_RETURN_ARG(int, row), Q_ARG(qreal, 1), Q_ARG(qreal, y));
-    return row < 0 ? -1 : row * m_offers->columns();
+    QMetaObject::invokeMethod(d_func()->m_collectionView, "indexAt", Q_RETURN_ARG(int, row), Q_ARG(qreal, 1), Q_ARG(qreal, y));
+    return row < 0 ? -1 : row * d_func()->m_offers->columns();
 }
 
 void QVOffersViewController::geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry)
@@ -352,18 +353,18 @@ void QVOffersViewController::geometryChange(const QRectF &newGeometry, const QRe
     if (newGeometry.size() == oldGeometry.size())
         return;
     emit cellSizeChanged();
-    if (m_offers->columns() != columns()) {
+    if (d_func()->m_offers->columns() != columns()) {
         // Rows change their length: the offer at the top of the screen stays there.
         const int firstOffer = firstOfferOnScreen();
-        m_offers->setColumns(columns());
-        if (firstOffer > 0 && m_collectionView)
-            QMetaObject::invokeMethod(m_collectionView, "positionViewAtIndex", Q_ARG(int, firstOffer / columns()),
+        d_func()->m_offers->setColumns(columns());
+        if (firstOffer > 0 && d_func()->m_collectionView)
+            QMetaObject::invokeMethod(d_func()->m_collectionView, "positionViewAtIndex", Q_ARG(int, firstOffer / columns()),
                                       Q_ARG(int, kListViewBeginning));
     }
     layoutFilterPanel();
     layoutSupportPanel();
     // A size transition (rotation) takes a presented popover away.
-    for (QObject *popover : {m_filterPopover, m_supportPopover}) {
+    for (QObject *popover : {d_func()->m_filterPopover, d_func()->m_supportPopover}) {
         if (popover && popover->property("visible").toBool() && popover->property("closePolicy").toInt() == kNoAutoClose)
             dismissPopover(popover);
     }

@@ -5,19 +5,20 @@ list(APPEND QUORVA_PUBLIC_HEADERS
     wall/QVOfferUICollectionViewCell.h
     wall/QVFiltersViewController.h
     wall/QVFilterCells.h
-    ui/QVImageView.h
-    ui/QVImageCache.h
-    ui/QVColor.h
     ui/QVTheme.h
 )
 
+# Helpers of the interface files, not installed: hosts use the classes above.
 set(QUORVA_UI_SOURCES
-    ui/QVColor.cpp
+    ui/QVColor.h ui/QVColor.cpp
+    ui/QVImageView.h
+    ui/QVImageCache.h
     ui/QVTheme.cpp
     ui/QVSpringCurve.h ui/QVSpringCurve.cpp
     ui/QVImageCache.cpp
     ui/QVImageView.cpp
     ui/QVComponentFactory.h ui/QVComponentFactory.cpp
+    ui/AssignIfChanged.h
     ui/QVAlertPresenter.h ui/QVAlertPresenter.cpp
     ui/QVPayoutFormatter.h ui/QVPayoutFormatter.cpp
     wall/QVOffersListModel.h wall/QVOffersListModel.cpp

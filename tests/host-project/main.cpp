@@ -4,13 +4,15 @@
 #include <QtCore/QCoreApplication>
 #include <cstdio>
 
+static_assert(QUORVAMEDIA_VERSION >= QUORVAMEDIA_VERSION_CHECK(2, 0, 0), "the installed headers are 2.x");
+
 int main(int argc, char **argv)
 {
     QCoreApplication app(argc, argv);
     QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
     api->setPubId(QStringLiteral("1042"));
     const QString address = api->urlString(QStringLiteral("https://h/p"), QVariantMap{{QStringLiteral("a"), 1}});
-    std::printf("%s%s\n%.1f\n", reinterpret_cast<const char *>(QuorvaMediaVersionString),
-                qPrintable(address), QuorvaMediaVersionNumber);
+    std::printf("%s%s\n%.1f\nrelease %s\n", reinterpret_cast<const char *>(QuorvaMediaVersionString),
+                qPrintable(address), QuorvaMediaVersionNumber, QUORVAMEDIA_VERSION_STR);
     return address == QLatin1String("https://h/p?a=1") ? 0 : 1;
 }

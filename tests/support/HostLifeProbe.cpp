@@ -15,7 +15,7 @@ bool anyPictureShown(QQuickItem *root)
 {
     QList<QQuickItem *> items{root};
     for (qsizetype i = 0; i < items.size(); ++i) {
-        if (auto *view = qobject_cast<QVImageView *>(items[i]); view && view->hasImage())
+        if (items[i]->inherits("QVImageView") && items[i]->property("hasImage").toBool())
             return true;
         items += items[i]->childItems();
     }

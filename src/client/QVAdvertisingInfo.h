@@ -4,6 +4,7 @@
 
 /// What the host knows about the device's advertising identifier. The identifier is
 /// sent as canonical upper-case 8-4-4-4-12 text.
+/// Its fields are fixed for all of 2.x.
 struct QVAdvertisingInfo
 {
     /// The advertising identifier; empty or not valid sends the all-zero one.

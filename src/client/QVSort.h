@@ -6,7 +6,8 @@
 #include <QtQml/qqmlregistration.h>
 
 /// A sort choice: key is the label shown, value is what the service receives.
-/// A plain value type: copies are independent and cheap (implicitly shared strings).
+/// A plain value type: copies are independent and cheap (implicitly shared strings). Its
+/// fields are fixed for all of 2.x; what a later release adds comes as a new type.
 class QUORVAMEDIA_EXPORT QVSort
 {
     Q_GADGET

@@ -10,6 +10,7 @@
 /// dark() its dark look, fromBrandColor() a whole theme from an app's brand colour.
 /// Every theme the class makes is readable: text and what lies under it meet 4.5 : 1
 /// (WCAG 2.1), the payout button's edge against the card at least 3 : 1.
+/// Its roles are fixed for all of 2.x: a later role comes with a new type.
 class QUORVAMEDIA_EXPORT QVTheme
 {
     Q_GADGET

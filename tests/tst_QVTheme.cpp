@@ -1,4 +1,4 @@
-#include <QuorvaMedia/QVColor.h>
+#include "QVColor.h"
 #include <QuorvaMedia/QVTheme.h>
 
 #include <QtTest/QtTest>

@@ -412,97 +412,97 @@ void ServiceRequests::fetchHistory(QuorvaRestAPI *api, const ServiceIdentity &id
 
 } // namespace quorva::detail
 
-QString  QuorvaRestAPI::pubId() const
+QString QuorvaRestAPI::pubId() const
 {
     return d_func()->m_pubId;
 }
 
-void  QuorvaRestAPI::setPubId(const QString &value)
+void QuorvaRestAPI::setPubId(const QString &value)
 {
     d_func()->m_pubId = value;
 }
 
-QString  QuorvaRestAPI::corvelId() const
+QString QuorvaRestAPI::corvelId() const
 {
     return d_func()->m_corvelId;
 }
 
-void  QuorvaRestAPI::setCorvelId(const QString &value)
+void QuorvaRestAPI::setCorvelId(const QString &value)
 {
     d_func()->m_corvelId = value;
 }
 
-QString  QuorvaRestAPI::subId1() const
+QString QuorvaRestAPI::subId1() const
 {
     return d_func()->m_subId1;
 }
 
-void  QuorvaRestAPI::setSubId1(const QString &value)
+void QuorvaRestAPI::setSubId1(const QString &value)
 {
     d_func()->m_subId1 = value;
 }
 
-QString  QuorvaRestAPI::gender() const
+QString QuorvaRestAPI::gender() const
 {
     return d_func()->m_gender;
 }
 
-void  QuorvaRestAPI::setGender(const QString &value)
+void QuorvaRestAPI::setGender(const QString &value)
 {
     d_func()->m_gender = value;
 }
 
-QString  QuorvaRestAPI::ageRange() const
+QString QuorvaRestAPI::ageRange() const
 {
     return d_func()->m_ageRange;
 }
 
-void  QuorvaRestAPI::setAgeRange(const QString &value)
+void QuorvaRestAPI::setAgeRange(const QString &value)
 {
     d_func()->m_ageRange = value;
 }
 
-QString  QuorvaRestAPI::subId2() const
+QString QuorvaRestAPI::subId2() const
 {
     return d_func()->m_subId2;
 }
 
-void  QuorvaRestAPI::setSubId2(const QString &value)
+void QuorvaRestAPI::setSubId2(const QString &value)
 {
     d_func()->m_subId2 = value;
 }
 
-QString  QuorvaRestAPI::subId3() const
+QString QuorvaRestAPI::subId3() const
 {
     return d_func()->m_subId3;
 }
 
-void  QuorvaRestAPI::setSubId3(const QString &value)
+void QuorvaRestAPI::setSubId3(const QString &value)
 {
     d_func()->m_subId3 = value;
 }
 
-QString  QuorvaRestAPI::subId4() const
+QString QuorvaRestAPI::subId4() const
 {
     return d_func()->m_subId4;
 }
 
-void  QuorvaRestAPI::setSubId4(const QString &value)
+void QuorvaRestAPI::setSubId4(const QString &value)
 {
     d_func()->m_subId4 = value;
 }
 
-QString  QuorvaRestAPI::serviceBaseAddress() const
+QString QuorvaRestAPI::serviceBaseAddress() const
 {
     return d_func()->m_baseAddress;
 }
 
-std::chrono::milliseconds  QuorvaRestAPI::transferTimeout() const
+std::chrono::milliseconds QuorvaRestAPI::transferTimeout() const
 {
     return d_func()->m_transferTimeout;
 }
 
-qint64  QuorvaRestAPI::maximumReplySize() const
+qint64 QuorvaRestAPI::maximumReplySize() const
 {
     return d_func()->m_maximumReplySize;
 }

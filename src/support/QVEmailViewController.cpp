@@ -399,32 +399,32 @@ QVEmailViewControllerDelegate *QVEmailViewController::delegate() const
     return d_func()->m_delegate;
 }
 
-void  QVEmailViewController::setDelegate(QVEmailViewControllerDelegate *delegate)
+void QVEmailViewController::setDelegate(QVEmailViewControllerDelegate *delegate)
 {
     d_func()->m_delegate = delegate;
 }
 
-int  QVEmailViewController::activeUISate() const
+int QVEmailViewController::activeUISate() const
 {
     return d_func()->m_activeUISate;
 }
 
-qreal  QVEmailViewController::keyboardInset() const
+qreal QVEmailViewController::keyboardInset() const
 {
     return d_func()->m_keyboardInset;
 }
 
-qreal  QVEmailViewController::topInset() const
+qreal QVEmailViewController::topInset() const
 {
     return d_func()->m_topInset;
 }
 
-QString  QVEmailViewController::selectedSubjectId() const
+QString QVEmailViewController::selectedSubjectId() const
 {
     return d_func()->m_selectedSubjectId;
 }
 
-QDate  QVEmailViewController::chosenDate() const
+QDate QVEmailViewController::chosenDate() const
 {
     return d_func()->m_chosenDate;
 }

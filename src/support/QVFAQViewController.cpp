@@ -63,12 +63,12 @@ qreal QVFAQViewController::heightForRow(int row, qreal width) const
     return QVQACollectionViewCell::fittingHeight(entry.question, entry.answer, width);
 }
 
-int  QVFAQViewController::selectedIndexPath() const
+int QVFAQViewController::selectedIndexPath() const
 {
     return d_func()->m_selectedIndexPath;
 }
 
-bool  QVFAQViewController::isExpanded(int row) const
+bool QVFAQViewController::isExpanded(int row) const
 {
     return d_func()->m_selectedIndexPath >= 0 && row == d_func()->m_selectedIndexPath;
 }

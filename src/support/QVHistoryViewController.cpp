@@ -62,7 +62,7 @@ int QVHistoryViewController::numberOfItems()
     return count;
 }
 
-bool  QVHistoryViewController::isLoading() const
+bool QVHistoryViewController::isLoading() const
 {
     return d_func()->m_isLoading;
 }

@@ -159,12 +159,12 @@ void QVSupportViewController::geometryChange(const QRectF &newGeometry, const QR
     }
 }
 
-QColor  QVSupportViewController::backgroundColor() const
+QColor QVSupportViewController::backgroundColor() const
 {
     return d_func()->m_backgroundColor;
 }
 
-bool  QVSupportViewController::showsFormBackground() const
+bool QVSupportViewController::showsFormBackground() const
 {
     return d_func()->m_backgroundColor != QColor(Qt::white);
 }

@@ -218,47 +218,47 @@ QVFiltersViewControllerDelegate *QVFiltersViewController::delegate() const
     return d_func()->m_delegate;
 }
 
-void  QVFiltersViewController::setDelegate(QVFiltersViewControllerDelegate *delegate)
+void QVFiltersViewController::setDelegate(QVFiltersViewControllerDelegate *delegate)
 {
     d_func()->m_delegate = delegate;
 }
 
-std::optional<QVCategory>  QVFiltersViewController::categoryParam() const
+std::optional<QVCategory> QVFiltersViewController::categoryParam() const
 {
     return d_func()->m_categoryParam;
 }
 
-void  QVFiltersViewController::setCategoryParam(const std::optional<QVCategory> &category)
+void QVFiltersViewController::setCategoryParam(const std::optional<QVCategory> &category)
 {
     d_func()->m_categoryParam = category;
 }
 
-std::optional<QVSort>  QVFiltersViewController::sortParam() const
+std::optional<QVSort> QVFiltersViewController::sortParam() const
 {
     return d_func()->m_sortParam;
 }
 
-void  QVFiltersViewController::setSortParam(const std::optional<QVSort> &sort)
+void QVFiltersViewController::setSortParam(const std::optional<QVSort> &sort)
 {
     d_func()->m_sortParam = sort;
 }
 
-QList<QVSort>  QVFiltersViewController::sortOptions() const
+QList<QVSort> QVFiltersViewController::sortOptions() const
 {
     return d_func()->m_sortOptions;
 }
 
-qreal  QVFiltersViewController::topMargin() const
+qreal QVFiltersViewController::topMargin() const
 {
     return d_func()->m_topMargin;
 }
 
-int  QVFiltersViewController::sortKeyIndex() const
+int QVFiltersViewController::sortKeyIndex() const
 {
     return d_func()->m_sortKeyIndex;
 }
 
-int  QVFiltersViewController::categoryKeyIndex() const
+int QVFiltersViewController::categoryKeyIndex() const
 {
     return d_func()->m_categoryKeyIndex;
 }

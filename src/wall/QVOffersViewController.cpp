@@ -549,27 +549,27 @@ QString QVOffersViewController::headerText() const
     return d_func()->m_headerTitle ? d_func()->m_headerTitle->property("text").toString() : QString();
 }
 
-bool  QVOffersViewController::creditNoticeShown() const
+bool QVOffersViewController::creditNoticeShown() const
 {
     return d_func()->m_creditNoticeShown;
 }
 
-QString  QVOffersViewController::creditNoticeText() const
+QString QVOffersViewController::creditNoticeText() const
 {
     return d_func()->m_creditNoticeText;
 }
 
-QString  QVOffersViewController::creditNoticeDetail() const
+QString QVOffersViewController::creditNoticeDetail() const
 {
     return d_func()->m_creditNoticeDetail;
 }
 
-QVTheme  QVOffersViewController::theme() const
+QVTheme QVOffersViewController::theme() const
 {
     return d_func()->m_theme;
 }
 
-bool  QVOffersViewController::isRightToLeft() const
+bool QVOffersViewController::isRightToLeft() const
 {
     return d_func()->m_rightToLeft;
 }
@@ -579,42 +579,42 @@ QVOffersViewControllerDelegate *QVOffersViewController::delegate() const
     return d_func()->m_delegate;
 }
 
-void  QVOffersViewController::setDelegate(QVOffersViewControllerDelegate *delegate)
+void QVOffersViewController::setDelegate(QVOffersViewControllerDelegate *delegate)
 {
     d_func()->m_delegate = delegate;
 }
 
-bool  QVOffersViewController::showsLoadingIndicator() const
+bool QVOffersViewController::showsLoadingIndicator() const
 {
     return d_func()->m_showsLoadingIndicator;
 }
 
-bool  QVOffersViewController::loadingOffers() const
+bool QVOffersViewController::loadingOffers() const
 {
     return d_func()->m_loadingOffers;
 }
 
-bool  QVOffersViewController::loadFailed() const
+bool QVOffersViewController::loadFailed() const
 {
     return d_func()->m_loadFailed;
 }
 
-bool  QVOffersViewController::isFiltersViewOpen() const
+bool QVOffersViewController::isFiltersViewOpen() const
 {
     return d_func()->m_isFiltersViewOpen;
 }
 
-bool  QVOffersViewController::isOverlayAnimating() const
+bool QVOffersViewController::isOverlayAnimating() const
 {
     return d_func()->m_runningSlides > 0;
 }
 
-bool  QVOffersViewController::moreOffersAvailable() const
+bool QVOffersViewController::moreOffersAvailable() const
 {
     return d_func()->m_moreOffersAvailable;
 }
 
-bool  QVOffersViewController::isSupportViewOpen() const
+bool QVOffersViewController::isSupportViewOpen() const
 {
     return d_func()->m_isSupportViewOpen;
 }
@@ -629,12 +629,12 @@ QVSupportViewController *QVOffersViewController::supportVC() const
     return d_func()->m_supportVC;
 }
 
-std::optional<QVSort>  QVOffersViewController::sortParam() const
+std::optional<QVSort> QVOffersViewController::sortParam() const
 {
     return d_func()->m_sortParam;
 }
 
-std::optional<QVCategory>  QVOffersViewController::categoryParam() const
+std::optional<QVCategory> QVOffersViewController::categoryParam() const
 {
     return d_func()->m_categoryParam;
 }

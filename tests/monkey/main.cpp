@@ -18,6 +18,7 @@
 #include <QtGui/QInputMethodEvent>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
+#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
 #include <functional>
@@ -95,7 +96,7 @@ public:
         qint64 nextCalm = 60000;
         while (m_findings.isEmpty() && clock.elapsed() < seconds * 1000LL) {
             act();
-            QTest::qWait(int(m_random.bounded(10, 150)));
+            waitFrames(int(m_random.bounded(1, 9)));
             check();
             if (m_warmResidentMiB == 0 && clock.elapsed() > 20000)
                 m_warmResidentMiB = residentMiB();
@@ -120,6 +121,18 @@ public slots:
     void openInBrowser(const QUrl &) {}
 
 private:
+    // Paces the hands by what the screen shows rather than by the clock: each frame asked
+    // for is drawn before the next action, however loaded the machine.
+    void waitFrames(int frames)
+    {
+        QSignalSpy swapped(&m_window, &QQuickWindow::frameSwapped);
+        for (int i = 0; i < frames; ++i) {
+            m_window.requestUpdate();
+            if (!swapped.wait())
+                return;
+        }
+    }
+
     int pick(int count) { return count > 0 ? int(m_random.bounded(count)) : 0; }
     QPoint anywhere() { return {pick(m_window.width()), pick(m_window.height())}; }
 
@@ -213,7 +226,7 @@ private:
         }
         case 7: // the filter panel, a choice and saving it
             m_wall->onFilterPressed();
-            QTest::qWait(int(m_random.bounded(400)));
+            waitFrames(int(m_random.bounded(25))); // taps land anywhere in the slide
             if (const auto rows = visibleNamed(QLatin1StringView("name"));
                 !rows.isEmpty())
                 click(rows[pick(int(rows.size()))]);
@@ -272,7 +285,7 @@ private:
             }
             if (QObject *tabs = m_wall->supportVC()->findChild<QObject *>(QStringLiteral("segmentedControl")))
                 tabs->setProperty("currentIndex", 2);
-            QTest::qWait(50);
+            (void)QTest::qWaitFor([this] { return !visibleNamed(QLatin1StringView("nameTextField")).isEmpty(); });
             const auto subjects = visibleItems([](QQuickItem *i) {
                 return i->objectName() == QLatin1String("reportBtn") || i->objectName() == QLatin1String("otherBtn");
             });

@@ -18,7 +18,6 @@
 #include <QtGui/QInputMethodEvent>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
-#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
 #include <functional>
@@ -122,13 +121,18 @@ public slots:
 
 private:
     // Paces the hands by what the screen shows rather than by the clock: each frame asked
-    // for is drawn before the next action, however loaded the machine.
+    // for is drawn before the next action, however loaded the machine. Swaps are counted
+    // on this thread through a context that dies with the call, so a swap still queued on
+    // return goes nowhere.
     void waitFrames(int frames)
     {
-        QSignalSpy swapped(&m_window, &QQuickWindow::frameSwapped);
+        int swapped = 0;
+        QObject context;
+        connect(&m_window, &QQuickWindow::frameSwapped, &context, [&swapped] { ++swapped; }, Qt::QueuedConnection);
         for (int i = 0; i < frames; ++i) {
+            const int before = swapped;
             m_window.requestUpdate();
-            if (!swapped.wait())
+            if (!QTest::qWaitFor([&] { return swapped > before; }))
                 return;
         }
     }

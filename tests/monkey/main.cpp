@@ -5,6 +5,7 @@
 #include "KeyboardPanel.h"
 #include "SandboxCredits.h"
 #include "SandboxProcess.h"
+#include "WallHarness.h"
 
 #include <QuorvaMedia/QuorvaMedia.h>
 
@@ -121,18 +122,11 @@ public slots:
 
 private:
     // Paces the hands by what the screen shows rather than by the clock: each frame asked
-    // for is drawn before the next action, however loaded the machine. Swaps are counted
-    // on this thread through a context that dies with the call, so a swap still queued on
-    // return goes nowhere.
+    // for is drawn before the next action, however loaded the machine.
     void waitFrames(int frames)
     {
-        int swapped = 0;
-        QObject context;
-        connect(&m_window, &QQuickWindow::frameSwapped, &context, [&swapped] { ++swapped; }, Qt::QueuedConnection);
         for (int i = 0; i < frames; ++i) {
-            const int before = swapped;
-            m_window.requestUpdate();
-            if (!QTest::qWaitFor([&] { return swapped > before; }))
+            if (!waitForNextFrame(&m_window))
                 return;
         }
     }

@@ -11,6 +11,22 @@
 #include <atomic>
 #include <memory>
 
+// Waits until a frame that began after this call is on screen, by which time new items
+// have been laid out. Frames are swapped on the render thread, so they are counted
+// there; the first one counted may end a frame that was already under way.
+inline bool waitForNextFrame(QQuickWindow *window)
+{
+    auto swaps = std::make_shared<std::atomic<int>>(0);
+    const auto counting = QObject::connect(window, &QQuickWindow::frameSwapped, window,
+                                           [swaps] { ++*swaps; }, Qt::DirectConnection);
+    const bool drawn = QTest::qWaitFor([&] {
+        window->update();
+        return *swaps >= 2;
+    }, kPatienceMs);
+    QObject::disconnect(counting);
+    return drawn;
+}
+
 // A host window with one wall in it, created through the public factory.
 class WallHarness : public QVOffersViewControllerDelegate
 {
@@ -37,21 +53,8 @@ public:
         return QTest::qWaitForWindowExposed(window.get()) && nextFrame();
     }
 
-    // Waits until a frame that began after this call is on screen, by which time new items
-    // have been laid out. Frames are swapped on the render thread, so they are counted
-    // there; the first one counted may end a frame that was already under way.
-    bool nextFrame()
-    {
-        auto swaps = std::make_shared<std::atomic<int>>(0);
-        const auto counting = QObject::connect(window.get(), &QQuickWindow::frameSwapped, window.get(),
-                                               [swaps] { ++*swaps; }, Qt::DirectConnection);
-        const bool drawn = QTest::qWaitFor([&] {
-            window->update();
-            return *swaps >= 2;
-        }, kPatienceMs);
-        QObject::disconnect(counting);
-        return drawn;
-    }
+    // Waits until a frame that began after this call is on screen.
+    bool nextFrame() { return waitForNextFrame(window.get()); }
 
 
     void resize(QSize size)

@@ -76,7 +76,13 @@ QStringList badTexts(QQuickWindow *window, bool mirrored)
                 cut = !boxInWindow.adjusted(-1, -1, 1, 1).contains(shown);
         }
         if (cut && !mayElide.contains(item->objectName()))
-            bad.append(QStringLiteral("cut: ") + textOf(item));
+            bad.append(QStringLiteral("cut: %1 (%2 wide in %3, at %4..%5 of %6)")
+                           .arg(textOf(item))
+                           .arg(contentWidth)
+                           .arg(item->width())
+                           .arg(inWindow.left())
+                           .arg(inWindow.right())
+                           .arg(window->width()));
         if (mirrored && contentWidth < item->width() - 1
             && item->property("effectiveHorizontalAlignment").toInt() == Qt::AlignLeft)
             bad.append(QStringLiteral("starts left: ") + textOf(item));

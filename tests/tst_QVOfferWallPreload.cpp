@@ -5,6 +5,9 @@
 
 #include <QuorvaMedia/QVOfferWallPreload.h>
 
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlEngine>
+
 class tst_QVOfferWallPreload : public QObject
 {
     Q_OBJECT
@@ -19,6 +22,8 @@ private slots:
     void wallLoadsAsBeforeWhenThePreloadCannotServe();
     void wallWaitsForAPreloadStillUnderWay();
     void incompleteIdentifiersFailAtOnce();
+    void qmlHostDoesWhatACppHostDoes_data();
+    void qmlHostDoesWhatACppHostDoes();
 
 private:
     QVOfferWallPreload *preload()
@@ -41,6 +46,7 @@ void tst_QVOfferWallPreload::init()
     QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
     api->setServiceBaseAddress(m_service.baseAddress());
     api->setGender({});
+    api->setSubId3({});
     m_service.setTotalOffers(95);
     m_service.setOffersHeld(false);
     m_service.setOffersDropped(false);
@@ -164,6 +170,130 @@ void tst_QVOfferWallPreload::incompleteIdentifiersFailAtOnce()
     QVERIFY(noPublisher->isFailed());
     QCoreApplication::processEvents();
     QCOMPARE(m_service.server().requestCount(), 0);
+}
+
+void tst_QVOfferWallPreload::qmlHostDoesWhatACppHostDoes_data()
+{
+    QTest::addColumn<QString>("properties");
+    QTest::addColumn<bool>("taken");
+    const QString identifiers = QStringLiteral("pubId: \"1042\"; corvelId: \"7\"; subId1: \"user-1\"\n");
+    const QString others = QStringLiteral(
+        "creditsWatcher: watcher; theme: QVTheme.fromBrandColor(\"#FFD400\", QVTheme.Dark)\n");
+    QTest::newRow("identifiers first") << identifiers + others << true;
+    QTest::newRow("identifiers last") << others + identifiers << true;
+    QTest::newRow("retargeted by the document")
+        << identifiers + others + QStringLiteral("gender: 1; subid3: \"from-qml\"\n") << false;
+}
+
+// Everything in QML: the client's address, the preload, a watcher, a theme, a language;
+// the wall takes the preload whatever order its properties come in, unless the document
+// retargets it, and picks phone or tablet by its own size.
+void tst_QVOfferWallPreload::qmlHostDoesWhatACppHostDoes()
+{
+    QFETCH(QString, properties);
+    QFETCH(bool, taken);
+    // What the library's interface files cannot find in a host's document is an error.
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("Error")));
+    QVDevice::resetUserInterfaceIdiom();
+    const auto phone = qScopeGuard([] { QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone); });
+    m_service.setHistory(200, R"({"transactions":[]})");
+    QQmlEngine engine;
+    const QString address = m_service.baseAddress();
+    QTest::ignoreMessage(QtWarningMsg, qPrintable(QStringLiteral("service address https://%1/ takes no scheme: using %1/")
+                                                      .arg(address)));
+    QQmlComponent starter(&engine);
+    starter.setData(R"(
+        import QtQml
+        import QuorvaMedia
+        QtObject {
+            required property string address
+            property QVOfferWallPreload preload
+            Component.onCompleted: {
+                QVService.serviceBaseAddress = "https://" + address + "/"
+                preload = QVService.preload("1042", "7", "user-1")
+            }
+        })", QUrl());
+    std::unique_ptr<QObject> started(starter.createWithInitialProperties({{QStringLiteral("address"), address}}));
+    QVERIFY2(started, qPrintable(starter.errorString()));
+    QCOMPARE(QuorvaRestAPI::sharedInstance()->serviceBaseAddress(), address);
+    auto *ahead = started->property("preload").value<QVOfferWallPreload *>();
+    QVERIFY(ahead);
+    QTRY_VERIFY(ahead->isReady());
+
+    QQmlComponent component(&engine);
+    component.setData(QStringLiteral(R"(
+        import QtQuick
+        import QuorvaMedia
+        Item {
+            width: 390; height: 844
+            property int closes: 0
+            QVCreditsWatcher { id: watcher; objectName: "watcher"; active: true
+                               pubId: "1042"; corvelId: "7"; subId1: "user-1" }
+            QVOffersViewController {
+                objectName: "wall"
+                anchors.fill: parent
+                onClosePressed: parent.closes++
+                %1
+            }
+        })").arg(properties).toUtf8(), QUrl());
+    std::unique_ptr<QObject> root(component.create());
+    QVERIFY2(root, qPrintable(component.errorString()));
+    QQuickWindow window;
+    window.resize(390, 844);
+    qobject_cast<QQuickItem *>(root.get())->setParentItem(window.contentItem());
+    auto *wall = root->findChild<QVOffersViewController *>(QStringLiteral("wall"));
+    int cellsInFirstFrame = -1;
+    QObject::connect(&window, &QQuickWindow::beforeSynchronizing, &window, [&] {
+        if (cellsInFirstFrame >= 0)
+            return;
+        const QList<QQuickItem *> items = WallHarness::itemsBelow(wall);
+        cellsInFirstFrame = int(std::count_if(items.cbegin(), items.cend(), [](QQuickItem *item) {
+            return item->inherits("QVOfferUICollectionViewCell") && item->isVisible();
+        }));
+    }, Qt::DirectConnection);
+    window.show();
+    QTRY_VERIFY(cellsInFirstFrame >= 0);
+    QTRY_COMPARE(wall->offersList().size(), 30);
+    QCOMPARE(cellsInFirstFrame > 0, taken);
+    QCOMPARE(m_service.requestsTo("/offers.json"), taken ? 1 : 2);
+    QCOMPARE(m_service.requestsTo("/details.json"), taken ? 1 : 2);
+    if (!taken) {
+        QCOMPARE(m_service.offersQueries().last().value("gender"), QStringLiteral("f"));
+        QCOMPARE(m_service.offersQueries().last().value("subid3"), QStringLiteral("from-qml"));
+    }
+    QCOMPARE(wall->theme(), QVTheme::fromBrandColor(QColor(0xFF, 0xD4, 0x00), QVTheme::Dark));
+
+    // The watcher declared beside the wall reports to it.
+    auto *watcher = root->findChild<QVCreditsWatcher *>(QStringLiteral("watcher"));
+    QCOMPARE(wall->creditsWatcher(), watcher);
+    QTRY_VERIFY(watcher->hasBaseline());
+    m_service.setHistory(200, R"({"transactions":[{"offer_name":"Sky Quest","currency_adjustment":1500}]})");
+    watcher->checkNow();
+    QTRY_VERIFY(wall->creditNoticeShown());
+
+    // The language, set on an open wall, reaches the texts already shown.
+    QQuickItem *title = wall->findChild<QQuickItem *>(QStringLiteral("headerTitle"));
+    QTRY_COMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
+    wall->setProperty("language", QStringLiteral("de"));
+    QCOMPARE(title->property("text").toString(), QStringLiteral("Gems verdienen"));
+    QVERIFY(!wall->isRightToLeft());
+    wall->setProperty("language", QStringLiteral("ar"));
+    QVERIFY(wall->isRightToLeft());
+    wall->setProperty("language", QString());
+    QCOMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
+
+    // A phone-sized window gets the phone's support centre whatever the screen, and its
+    // button closes it again.
+    QQuickItem *support = wall->findChild<QQuickItem *>(QStringLiteral("supportBtn"));
+    QMetaObject::invokeMethod(support, "clicked");
+    QTRY_VERIFY(wall->supportVC() && !wall->isOverlayAnimating());
+    QVERIFY(!wall->findChild<QObject *>(QStringLiteral("supportPopover")));
+    QVERIFY(wall->isSupportViewOpen());
+    QMetaObject::invokeMethod(support, "clicked");
+    QTRY_VERIFY(!wall->isSupportViewOpen());
+    QCOMPARE(root->property("closes").toInt(), 0);
+    wall->onClosePressed();
+    QCOMPARE(root->property("closes").toInt(), 1);
 }
 
 QTEST_MAIN(tst_QVOfferWallPreload)

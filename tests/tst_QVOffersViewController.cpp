@@ -52,7 +52,6 @@ private slots:
     void themeColoursTheWallWhileOpen();
     void closeButtonTellsTheHost();
     void hostEndsWithoutWarnings();
-    void qmlHostDeclaresTheWall();
 
 private:
     FakeOfferService m_service;
@@ -562,47 +561,6 @@ void tst_QVOffersViewController::closeButtonTellsTheHost()
     QCOMPARE(closed.count(), 1);
     QCOMPARE(harness.closePresses, 1);
     QVERIFY(harness.wall->isVisible()); // dismissing is the host's job
-}
-
-void tst_QVOffersViewController::qmlHostDeclaresTheWall()
-{
-    QQmlEngine engine;
-    QQmlComponent component(&engine);
-    component.setData(R"(
-        import QtQuick
-        import QuorvaMedia
-        Item {
-            width: 390; height: 700
-            property int closes: 0
-            QVOffersViewController {
-                objectName: "wall"
-                anchors.fill: parent
-                pubId: "2077"; corvelId: "1"; subId1: "qml-user"
-                gender: 0
-                subid3: "from-qml"
-                onClosePressed: parent.closes++
-            }
-        })", QUrl());
-    std::unique_ptr<QObject> root(component.create());
-    QVERIFY2(root, qPrintable(component.errorString()));
-    auto *item = qobject_cast<QQuickItem *>(root.get());
-    QQuickWindow window;
-    window.resize(390, 700);
-    item->setParentItem(window.contentItem());
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QTRY_COMPARE(m_service.requestsTo("/offers.json"), 1);
-    const HttpRequest request = m_service.server().requests().front();
-    QCOMPARE(request.path.rfind("/corvel/api/publisher/2077/profile/1/", 0), 0u);
-    const auto query = m_service.offersQueries().first();
-    QCOMPARE(query.value("subid1"), QStringLiteral("qml-user"));
-    QCOMPARE(query.value("gender"), QStringLiteral("m"));
-    QCOMPARE(query.value("subid3"), QStringLiteral("from-qml"));
-    auto *wall = item->findChild<QVOffersViewController *>(QStringLiteral("wall"));
-    QVERIFY(wall);
-    QTRY_COMPARE(wall->offersList().size(), 30);
-    wall->onClosePressed();
-    QCOMPARE(root->property("closes").toInt(), 1);
 }
 
 QTEST_MAIN(tst_QVOffersViewController)

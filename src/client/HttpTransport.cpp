@@ -226,6 +226,11 @@ TransferResult HttpTransport::perform(const TransferRequest &request)
     } else if (reception.exceededLimit > 0 || code == CURLE_FILESIZE_EXCEEDED) {
         result.outcome = TransferResult::Outcome::TooLarge;
         result.exceededLimit = reception.exceededLimit > 0 ? reception.exceededLimit : request.maximumReplySize;
+    } else if (code == CURLE_PEER_FAILED_VERIFICATION) {
+        result.setupProblem = "the service's certificate is not trusted: add its certificate authority "
+                              "(QuorvaRestAPI::addCaCertificates, or caCertificatesFile in QML)";
+    } else if (code == CURLE_COULDNT_RESOLVE_HOST || code == CURLE_URL_MALFORMAT) {
+        result.setupProblem = "the service address does not resolve: it takes \"host\" or \"host:port\"";
     }
     return result;
 }

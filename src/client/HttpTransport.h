@@ -34,6 +34,9 @@ struct TransferResult
     int status = 0;
     QByteArray body;
     qint64 exceededLimit = 0;   // with TooLarge: the cap the reply went past
+    // With Failed, when the host's set-up is the likely cause (an untrusted certificate,
+    // an address that does not resolve): what to tell the developer.
+    const char *setupProblem = nullptr;
 
     bool answered() const { return outcome == Outcome::Answered; }
 };

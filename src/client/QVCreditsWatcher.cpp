@@ -28,6 +28,10 @@ struct QVCreditsWatcher::Private
     bool active = false;
     bool inFlight = false;
     bool again = false;
+    // Bumped when the identifiers change: a poll sent for the earlier ones says nothing
+    // about the new user's history.
+    int generation = 0;
+    bool checkQueued = false;
     // The most times each row was ever seen: a row missing from one reply that comes
     // back later is not new.
     std::optional<QHash<QVTransaction, int>> seen;
@@ -43,7 +47,40 @@ QVCreditsWatcher::QVCreditsWatcher(const QString &pubId, const QString &corvelId
     connect(&d->timer, &QTimer::timeout, this, &QVCreditsWatcher::checkNow);
 }
 
+QVCreditsWatcher::QVCreditsWatcher(QObject *parent) : QVCreditsWatcher(QString(), QString(), QString(), parent) {}
+
 QVCreditsWatcher::~QVCreditsWatcher() = default;
+
+QString QVCreditsWatcher::pubId() const { return d->identity.pubId; }
+QString QVCreditsWatcher::corvelId() const { return d->identity.corvelId; }
+QString QVCreditsWatcher::subId1() const { return d->identity.subId1; }
+void QVCreditsWatcher::setPubId(const QString &value) { identifierChanged(d->identity.pubId, value); }
+void QVCreditsWatcher::setCorvelId(const QString &value) { identifierChanged(d->identity.corvelId, value); }
+void QVCreditsWatcher::setSubId1(const QString &value) { identifierChanged(d->identity.subId1, value); }
+
+void QVCreditsWatcher::identifierChanged(QString &identifier, const QString &value)
+{
+    if (identifier == value && identifier.isNull() == value.isNull())
+        return;
+    identifier = value;
+    ++d->generation;
+    const bool hadBaseline = d->seen.has_value();
+    d->seen.reset();
+    emit identifiersChanged();
+    if (hadBaseline)
+        emit hasBaselineChanged();
+    // QML sets the three one after another: one poll follows once all are in.
+    if (d->active && !std::exchange(d->checkQueued, true)) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                d->checkQueued = false;
+                if (d->active)
+                    checkNow();
+            },
+            Qt::QueuedConnection);
+    }
+}
 
 int QVCreditsWatcher::interval() const { return d->timer.interval(); }
 
@@ -76,6 +113,9 @@ bool QVCreditsWatcher::isChecking() const { return d->inFlight; }
 
 void QVCreditsWatcher::checkNow()
 {
+    // Without all three identifiers there is no history to poll yet.
+    if (!d->identity.isComplete())
+        return;
     // One poll at a time: a slow service never has polls queueing behind it.
     if (d->inFlight) {
         d->again = true;
@@ -90,11 +130,17 @@ void QVCreditsWatcher::checkNow()
 void QVCreditsWatcher::sendPoll()
 {
     QPointer<QVCreditsWatcher> self(this);
+    const int generation = d->generation;
     ServiceRequests::fetchHistory(
         QuorvaRestAPI::sharedInstance(), d->identity,
-        [self](int status, const std::optional<QList<QVTransaction>> &list) {
+        [self, generation](int status, const std::optional<QList<QVTransaction>> &list) {
             if (!self)
                 return;
+            if (generation != self->d->generation) {
+                self->d->again = true; // polled for earlier identifiers: poll again
+                self->pollEnded(std::nullopt);
+                return;
+            }
             // Only an answer of the service counts; an error status or a body without a
             // list says nothing about the history.
             std::optional<QList<QVTransaction>> history;

@@ -9,6 +9,7 @@
 #include "../ui/QVDevice.h"
 #include "../ui/QVPictureNetwork.h"
 
+#include <QtCore/QRegularExpression>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -167,7 +168,23 @@ QThreadPool *QuorvaRestAPI::connectionQueue() const
 
 void QuorvaRestAPI::setServiceBaseAddress(const QString &hostAndOptionalPort)
 {
-    d_func()->m_baseAddress = hostAndOptionalPort;
+    QString address = hostAndOptionalPort.trimmed();
+    // Each request picks its own scheme, so a scheme written in front is dropped, with
+    // a word, rather than doubled into every address.
+    static const QRegularExpression scheme(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]*://"));
+    if (const QRegularExpressionMatch match = scheme.match(address); match.hasMatch()) {
+        qCWarning(lcQuorvaDiagnostics).noquote()
+            << "service address" << hostAndOptionalPort << "takes no scheme: using" << address.mid(match.capturedLength());
+        address.remove(0, match.capturedLength());
+    }
+    while (address.endsWith(QLatin1Char('/')))
+        address.chop(1);
+    const QUrl check(QStringLiteral("https://") + address);
+    if (address.isEmpty() || !check.isValid() || check.host().isEmpty() || !check.path().isEmpty()
+        || !check.userInfo().isEmpty())
+        qCWarning(lcQuorvaDiagnostics).noquote()
+            << "service address" << hostAndOptionalPort << "is not \"host\" or \"host:port\": requests to it fail";
+    d_func()->m_baseAddress = address;
 }
 
 void QuorvaRestAPI::addCaCertificates(const QList<QSslCertificate> &certificates)

@@ -37,6 +37,8 @@ void RequestPipeline::send(QThreadPool *pool, TransferRequest request, ResponseH
         else if (result.outcome == TransferResult::Outcome::TooLarge)
             qCWarning(lcQuorvaDiagnostics).noquote()
                 << request.name << "request stopped: the reply exceeds" << result.exceededLimit << "bytes";
+        else if (result.setupProblem)
+            qCWarning(lcQuorvaDiagnostics).noquote() << request.name << "request failed:" << result.setupProblem;
         postToGuiThread(std::move(onFailure));
     });
 }

@@ -2,7 +2,7 @@
 #include "QVEmailViewControllerPrivate.h"
 #include "AssignIfChanged.h"
 #include "QVComponentFactory.h"
-#include "QVDevice.h"
+#include "DeviceIdiom.h"
 #include "QVEnterCommentView.h"
 #include "QVEnterInformationView.h"
 #include "QVEnterOfferTitleView.h"
@@ -92,7 +92,7 @@ void QVEmailViewController::watchKeyboard()
     auto changed = [this, keyboard] {
         if (keyboard->isVisible() && !keyboard->keyboardRectangle().isEmpty())
             keyboardDidShow(keyboard->keyboardRectangle());
-        else if (!keyboard->isVisible() && !QVDevice::isTablet())
+        else if (!keyboard->isVisible() && !quorva::detail::isTabletFor(this))
             keyboardWillBeHidden();
     };
     connect(keyboard, &QInputMethod::visibleChanged, this, changed);
@@ -320,7 +320,7 @@ void QVEmailViewController::setTopInset(qreal inset)
 
 void QVEmailViewController::keyboardDidShow(const QRectF &keyboardFrame)
 {
-    if (!QVDevice::isTablet()) {
+    if (!quorva::detail::isTabletFor(this)) {
         hideDatePanelAtOnce();
         setKeyboardInset(mapRectFromScene(keyboardFrame).height());
     }

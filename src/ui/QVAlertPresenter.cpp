@@ -6,14 +6,14 @@
 #include <QtQuick/QQuickItem>
 
 QObject *QVAlertPresenter::present(QQuickItem *over, const QString &title, const QString &message,
-                                   const QString &actionTitle)
+                                   const QString &actionTitle, QQmlContext *context)
 {
     QObject *alert = QVComponentFactory::create(qmlEngine(over), QStringLiteral("QVAlert"),
                                                 {{QStringLiteral("parent"), QVariant::fromValue(over)},
                                                  {QStringLiteral("title"), title},
                                                  {QStringLiteral("message"), message},
                                                  {QStringLiteral("actionTitle"), actionTitle}},
-                                                qmlContext(over));
+                                                context ? context : qmlContext(over));
     if (!alert)
         return nullptr;
     // The alert belongs to the item it covers and removes itself once dismissed.

@@ -5,6 +5,7 @@
 #include <QtCore/QString>
 
 class QObject;
+class QQmlContext;
 class QQuickItem;
 
 // Shows a one-button alert over an item. The alert is a dialog with objectName "alert",
@@ -13,5 +14,5 @@ class QVAlertPresenter
 {
 public:
     static QObject *present(QQuickItem *over, const QString &title, const QString &message,
-                            const QString &actionTitle);
+                            const QString &actionTitle, QQmlContext *context = nullptr);
 };

@@ -32,9 +32,19 @@ QUrl QVComponentFactory::urlFor(const QString &typeName)
     return QUrl(kModuleRoot + typeName + QStringLiteral(".qml"));
 }
 
+namespace {
+bool g_sharedEngineMade = false;
+}
+
+bool QVComponentFactory::hasSharedEngine()
+{
+    return g_sharedEngineMade;
+}
+
 QQmlEngine *QVComponentFactory::sharedEngine()
 {
     static QQmlEngine *engine = [] {
+        g_sharedEngineMade = true;
         auto *e = new QQmlEngine(QCoreApplication::instance());
         // What a screen made outside any wall reads; inside a wall the wall's own theme
         // is found first.

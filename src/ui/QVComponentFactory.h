@@ -18,6 +18,8 @@ class QVComponentFactory
 public:
     // The engine the factory uses when the caller has none (the C++ entry point).
     static QQmlEngine *sharedEngine();
+    // True once sharedEngine() has made the engine.
+    static bool hasSharedEngine();
     // Where the interface file of a type lies among the library's resources.
     static QUrl urlFor(const QString &typeName);
 

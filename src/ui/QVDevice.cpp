@@ -1,14 +1,23 @@
 #include "QVDevice.h"
+#include "DeviceIdiom.h"
 
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 #include <QtQml/QQmlEngine>
+#include <QtQuick/QQuickItem>
+#include <QtQuick/QQuickWindow>
 
 #include <optional>
 
 namespace {
 std::optional<QVDevice::Idiom> g_fixedIdiom;
 QString g_model;
+
+QVDevice::Idiom idiomForSize(QSizeF size)
+{
+    return qMin(size.width(), size.height()) >= QVDevice::kTabletMinimumShortSide ? QVDevice::Idiom::Tablet
+                                                                                  : QVDevice::Idiom::Phone;
+}
 
 QVDevice::Idiom idiomFromScreen()
 {
@@ -17,10 +26,7 @@ QVDevice::Idiom idiomFromScreen()
     const QScreen *screen = gui ? QGuiApplication::primaryScreen() : nullptr;
     if (!screen)
         return QVDevice::Idiom::Phone;
-    const QSize size = screen->size();
-    return qMin(size.width(), size.height()) >= QVDevice::kTabletMinimumShortSide
-        ? QVDevice::Idiom::Tablet
-        : QVDevice::Idiom::Phone;
+    return idiomForSize(screen->size());
 }
 } // namespace
 
@@ -71,3 +77,24 @@ void QVDevice::setModel(const QString &model)
 {
     g_model = model;
 }
+
+namespace quorva::detail {
+
+bool isTabletFor(const QQuickItem *item)
+{
+    if (g_fixedIdiom)
+        return *g_fixedIdiom == QVDevice::Idiom::Tablet;
+    // A panel not yet placed in the scene is still owned by its wall.
+    const auto up = [](const QQuickItem *box) {
+        return box->parentItem() ? box->parentItem() : qobject_cast<const QQuickItem *>(box->parent());
+    };
+    for (const QQuickItem *box = item; box; box = up(box)) {
+        if (box->inherits("QVOffersViewController") && !box->size().isEmpty())
+            return idiomForSize(box->size()) == QVDevice::Idiom::Tablet;
+    }
+    if (const QQuickWindow *window = item ? item->window() : nullptr; window && !window->size().isEmpty())
+        return idiomForSize(window->size()) == QVDevice::Idiom::Tablet;
+    return QVDevice::isTablet();
+}
+
+} // namespace quorva::detail

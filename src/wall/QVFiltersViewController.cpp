@@ -2,7 +2,7 @@
 #include "QVFiltersViewControllerPrivate.h"
 #include "AssignIfChanged.h"
 #include "QVAlertPresenter.h"
-#include "QVDevice.h"
+#include "DeviceIdiom.h"
 #include "QVFilterListModel.h"
 #include "QuorvaLog.h"
 #include "QuorvaRestAPI.h"
@@ -108,7 +108,7 @@ void QVFiltersViewController::setTopMargin(qreal margin)
 void QVFiltersViewController::viewDidLoad()
 {
     loadCategories();
-    if (QVDevice::isTablet())
+    if (quorva::detail::isTabletFor(this))
         setTopMargin(kTabletTopMargin);
 }
 

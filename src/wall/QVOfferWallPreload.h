@@ -3,6 +3,7 @@
 #include "quorvamedia_global.h"
 
 #include <QtCore/QObject>
+#include <QtQml/qqmlregistration.h>
 
 #include <memory>
 
@@ -18,6 +19,8 @@ namespace quorva::detail { struct ServiceIdentity; struct TransferRequest; }
 class QUORVAMEDIA_EXPORT QVOfferWallPreload : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("QVService.preload() makes it")
     /// Both replies have arrived.
     Q_PROPERTY(bool ready READ isReady NOTIFY stateChanged FINAL)
     /// Either request failed, or the identifiers were incomplete.

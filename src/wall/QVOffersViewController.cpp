@@ -17,6 +17,7 @@
 #include <QtCore/QTimer>
 #include <QtGui/QAccessible>
 #include <QtGui/QDesktopServices>
+#include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickWindow>
 
@@ -221,7 +222,11 @@ void QVOffersViewController::viewDidLoad()
 
 bool QVOffersViewController::takePreload(const quorva::detail::TransferRequest &firstPage)
 {
-    QVOfferWallPreload *preload = d_func()->m_preload;
+    // A wall made by newOffersWallForPublisherId() was handed its preload; one QML
+    // declared looks for it now that its identifiers are all set.
+    QVOfferWallPreload *preload = d_func()->m_preload
+        ? d_func()->m_preload.data()
+        : QVOfferWallPreload::find(quorva::detail::ServiceIdentity::of(QuorvaRestAPI::sharedInstance()));
     d_func()->m_preload = nullptr;
     if (!preload || !preload->take(firstPage))
         return false;
@@ -285,6 +290,7 @@ void QVOffersViewController::requestProfile()
 void QVOffersViewController::profileArrived(const QVProfile &profile)
 {
     d_func()->m_currencyName = profile.currencyName();
+    d_func()->m_profileArrived = true;
     const QString name = profile.currencyName().isNull() ? QString(kAbsentText) : profile.currencyName();
     const QString title = tr(kEarnFormat).arg(name);
     // An open overlay keeps its own title; the wall's comes back when it closes.
@@ -471,6 +477,46 @@ void QVOffersViewController::setCreditsWatcher(QVCreditsWatcher *watcher)
     if (watcher)
         d_func()->m_creditsConnection = connect(watcher, &QVCreditsWatcher::creditsReceived, this,
                                       &QVOffersViewController::creditsReceived);
+    emit creditsWatcherChanged();
+}
+
+QQmlContext *QVOffersViewController::overlayContext()
+{
+    // Panels, popovers and alerts read the wall's theme and direction by name. A wall
+    // declared in a host's document has the host's context, where neither is found, so
+    // what the wall makes gets a context of its own that looks in the wall first.
+    if (!d_func()->m_overlayContext) {
+        d_func()->m_overlayContext = new QQmlContext(qmlContext(this), this);
+        d_func()->m_overlayContext->setContextObject(this);
+    }
+    return d_func()->m_overlayContext;
+}
+
+QString QVOffersViewController::language() const
+{
+    return d_func()->m_language;
+}
+
+void QVOffersViewController::setLanguage(const QString &language)
+{
+    if (d_func()->m_language == language)
+        return;
+    d_func()->m_language = language;
+    quorva::detail::useLanguageOf(language.isEmpty() ? QLocale() : QLocale(language));
+    d_func()->m_rightToLeft = quorva::detail::libraryLocale().textDirection() == Qt::RightToLeft;
+    // Texts already made, here and in the library's own engine, follow the new language.
+    QQmlEngine *engine = qmlEngine(this);
+    if (engine)
+        engine->retranslate();
+    if (QVComponentFactory::hasSharedEngine() && QVComponentFactory::sharedEngine() != engine)
+        QVComponentFactory::sharedEngine()->retranslate();
+    // The title is made here rather than bound in the interface file.
+    if (d_func()->m_profileArrived) {
+        QVProfile profile;
+        profile.setCurrencyName(d_func()->m_currencyName);
+        profileArrived(profile);
+    }
+    emit languageChanged();
 }
 
 QVCreditsWatcher *QVOffersViewController::creditsWatcher() const
@@ -535,7 +581,7 @@ void QVOffersViewController::onClosePressed()
 
 void QVOffersViewController::showFailureAlert()
 {
-    QVAlertPresenter::present(this, tr(kAlertTitle), tr(kAlertMessage), tr(kAlertAction));
+    QVAlertPresenter::present(this, tr(kAlertTitle), tr(kAlertMessage), tr(kAlertAction), overlayContext());
 }
 
 void QVOffersViewController::setHeaderText(const QString &text)

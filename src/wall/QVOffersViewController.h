@@ -2,6 +2,7 @@
 
 #include "quorvamedia_global.h"
 #include "QVCategory.h"
+#include "QVCreditsWatcher.h"
 #include "QVFiltersViewController.h"
 #include "QVOfferUICollectionViewCell.h"
 #include "QVOffer.h"
@@ -21,7 +22,6 @@
 class QAbstractAnimation;
 class QPropertyAnimation;
 class QTimer;
-class QVCreditsWatcher;
 class QVOfferWallPreload;
 class QVOffersListModel;
 class QVPayoutFormatter;
@@ -117,13 +117,20 @@ class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
     /// Every screen, panel, popover and alert of the wall reads its colours from here.
     Q_PROPERTY(QVTheme theme READ theme WRITE setTheme NOTIFY themeChanged FINAL)
     /// The wall's language reads right to left: every screen is mirrored.
-    Q_PROPERTY(bool rightToLeft READ isRightToLeft CONSTANT FINAL)
+    Q_PROPERTY(bool rightToLeft READ isRightToLeft NOTIFY languageChanged FINAL)
     /// True while the credit notice shows.
     Q_PROPERTY(bool creditNoticeShown READ creditNoticeShown NOTIFY creditNoticeChanged FINAL)
     /// The credit notice's first line, such as "+1,500 Gems".
     Q_PROPERTY(QString creditNoticeText READ creditNoticeText NOTIFY creditNoticeChanged FINAL)
     /// The credit notice's second line: the names of the credited offers.
     Q_PROPERTY(QString creditNoticeDetail READ creditNoticeDetail NOTIFY creditNoticeChanged FINAL)
+    /// The watcher whose credits show as a notice, as setCreditsWatcher() sets it.
+    Q_PROPERTY(QVCreditsWatcher *creditsWatcher READ creditsWatcher WRITE setCreditsWatcher
+                   NOTIFY creditsWatcherChanged FINAL)
+    /// The language of the wall's texts, as a locale name such as "de", "pt_BR" or "ar";
+    /// empty (the default) means the host's default locale when the wall is made. The
+    /// library speaks one language at a time: the wall that sets one last is heard.
+    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged FINAL)
 
 public:
     /// Creates a wall; QML creates it this way. Set the identifiers before it is first
@@ -154,6 +161,12 @@ public:
     void setCreditsWatcher(QVCreditsWatcher *watcher);
     /// The watcher set with setCreditsWatcher(), or null.
     QVCreditsWatcher *creditsWatcher() const;
+
+    /// See #language.
+    QString language() const;
+    /// Sets the language of the wall's texts (see #language). Best set before the wall is
+    /// shown; on an open wall every screen's texts change at once.
+    void setLanguage(const QString &language);
     ///@{
     /// The credit notice, as the properties of the same names describe it.
     bool creditNoticeShown() const;
@@ -302,6 +315,11 @@ signals:
     void offerOpened(const QVOffer &offer);
     /// The wall's first offers are on screen; once per wall.
     void offersShown();
+    ///@{
+    /// Emitted when the property of the same name changes.
+    void creditsWatcherChanged();
+    void languageChanged();
+    ///@}
 
 protected:
     ///@{
@@ -347,6 +365,7 @@ private:
     /// The first offer whose row shows at the top of the list, or -1.
     Q_DECL_HIDDEN int firstOfferOnScreen() const;
     Q_DECL_HIDDEN qreal listWidth() const;
+    Q_DECL_HIDDEN class QQmlContext *overlayContext();
 
 
 

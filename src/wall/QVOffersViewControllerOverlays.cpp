@@ -3,7 +3,7 @@
 #include "QVOffersViewController.h"
 #include "QVOffersViewControllerPrivate.h"
 #include "QVComponentFactory.h"
-#include "QVDevice.h"
+#include "DeviceIdiom.h"
 #include "QVOffersListModel.h"
 #include "QVSpringCurve.h"
 #include "QVSupportViewController.h"
@@ -56,7 +56,7 @@ void QVOffersViewController::onFilterPressed()
     }
     if (!d_func()->m_isFiltersViewOpen) {
         auto *panel = QVComponentFactory::create<QVFiltersViewController>(qmlEngine(this), kFiltersType, {},
-                                                                            qmlContext(this));
+                                                                            overlayContext());
         if (!panel)
             return;
         // Owned by the wall: a panel still sliding out when the wall goes goes with it.
@@ -69,7 +69,7 @@ void QVOffersViewController::onFilterPressed()
         panel->viewDidLoad();
         d_func()->m_filterVC = panel;
     }
-    if (QVDevice::isTablet()) {
+    if (quorva::detail::isTabletFor(this)) {
         presentInPopover(popover(d_func()->m_filterPopover, "QVPopover", "filterPopover"), d_func()->m_filterBtn, d_func()->m_filterVC);
         return;
     }
@@ -83,7 +83,7 @@ void QVOffersViewController::onFilterPressed()
     panel->setClip(true);
     d_func()->m_blurView = QVComponentFactory::create<QQuickItem>(
         qmlEngine(this), kBlurViewType, {{QStringLiteral("sourceItem"), QVariant::fromValue(d_func()->m_collectionView)}},
-        qmlContext(this));
+        overlayContext());
     if (d_func()->m_blurView) {
         d_func()->m_blurView->setParent(panel);
         d_func()->m_blurView->setParentItem(panel);
@@ -192,14 +192,14 @@ void QVOffersViewController::onSupportPressed()
     }
     if (!d_func()->m_isSupportViewOpen) {
         auto *support = QVComponentFactory::create<QVSupportViewController>(qmlEngine(this), kSupportType, {},
-                                                                            qmlContext(this));
+                                                                            overlayContext());
         if (!support)
             return;
         support->setParent(this);
         support->setObjectName(QStringLiteral("supportVC"));
         d_func()->m_supportVC = support;
     }
-    if (QVDevice::isTablet()) {
+    if (quorva::detail::isTabletFor(this)) {
         presentInPopover(popover(d_func()->m_supportPopover, "QVSupportPopover", "supportPopover"), d_func()->m_supportBtn, d_func()->m_supportVC);
         return;
     }
@@ -233,7 +233,7 @@ QObject *QVOffersViewController::popover(QObject *&popover, const char *typeName
         return popover;
     popover = QVComponentFactory::create(qmlEngine(this), QLatin1StringView(typeName),
                                          {{QStringLiteral("parent"), QVariant::fromValue(static_cast<QQuickItem *>(this))}},
-                                         qmlContext(this));
+                                         overlayContext());
     if (!popover)
         return nullptr;
     popover->setParent(this);
@@ -332,7 +332,7 @@ void QVOffersViewController::onSaveFiltersPressed(const std::optional<QVCategory
     if (d_func()->m_closeBtn)
         d_func()->m_closeBtn->setVisible(true);
     closeFiltersView();
-    if (QVDevice::isTablet())
+    if (quorva::detail::isTabletFor(this))
         dismissPopover(d_func()->m_filterPopover);
 }
 

@@ -2,6 +2,8 @@
 
 #include "QVOffersViewController.h"
 
+#include <QtQml/QQmlContext>
+
 // The data of QVOffersViewController, behind its private pointer so that its size stays the
 // same from release to release.
 class QVOffersViewControllerPrivate
@@ -58,4 +60,7 @@ public:
     QVTheme m_theme;
     bool m_themeSet = false;
     bool m_rightToLeft = false;
+    QString m_language;
+    bool m_profileArrived = false;
+    QPointer<QQmlContext> m_overlayContext;
 };

@@ -14,6 +14,8 @@ set(QUORVA_UI_SOURCES
     ui/QVImageView.h
     ui/QVImageCache.h
     ui/QVTheme.cpp
+    ui/QVThemeFactory.h
+    ui/QVService.h ui/QVService.cpp
     ui/QVSpringCurve.h ui/QVSpringCurve.cpp
     ui/QVImageCache.cpp
     ui/QVImageView.cpp

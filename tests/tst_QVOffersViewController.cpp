@@ -426,6 +426,16 @@ void tst_QVOffersViewController::payoutPressOpensClickAddress()
     QCOMPARE(shown.count(), 1);
 }
 
+namespace {
+// True when the grabbed pixel is the colour, give or take the rasteriser's rounding.
+bool drawnIn(const QImage &frame, QPointF at, const QColor &colour)
+{
+    const QColor pixel = frame.pixelColor(at.toPoint() * frame.devicePixelRatio());
+    return qAbs(pixel.red() - colour.red()) <= 3 && qAbs(pixel.green() - colour.green()) <= 3
+        && qAbs(pixel.blue() - colour.blue()) <= 3;
+}
+} // namespace
+
 void tst_QVOffersViewController::creditsShowAsOneNotice()
 {
     m_service.setHistory(200, R"({"transactions":[{"offer_name":"Old","currency_adjustment":10}]})");
@@ -456,6 +466,18 @@ void tst_QVOffersViewController::creditsShowAsOneNotice()
     QCOMPARE(spoken->role(), QAccessible::AlertMessage);
     QCOMPARE(spoken->text(QAccessible::Name), QStringLiteral("+1,500 Gems"));
 
+    // It stays below a phone panel: the support centre's tabs are not covered.
+    harness.wall->onSupportPressed();
+    QTRY_VERIFY(harness.wall->supportVC() && !harness.wall->isOverlayAnimating());
+    auto *tabs = harness.wall->supportVC()->findChild<QQuickItem *>(QStringLiteral("segmentedControl"));
+    QVERIFY(harness.nextFrame());
+    const QImage frame = harness.window->grabWindow();
+    QVERIFY(harness.wall->creditNoticeShown());
+    QVERIFY(notice->mapRectToScene(notice->boundingRect()).contains(tabs->mapToScene(QPointF(tabs->width() / 2, 4))));
+    QVERIFY(!drawnIn(frame, tabs->mapToScene(QPointF(tabs->width() / 2, 4)), harness.wall->theme().payoutButton));
+    harness.wall->onSupportPressed();
+    QTRY_VERIFY(!harness.wall->isSupportViewOpen() && !harness.wall->isOverlayAnimating());
+
     // Credits in a row add up; a reversal is not a credit.
     m_service.setHistory(200, R"({"transactions":[{"offer_name":"Reversal","currency_adjustment":-40},)"
                               R"({"offer_name":"Daily","currency_adjustment":250},)"
@@ -481,16 +503,6 @@ void tst_QVOffersViewController::creditsShowAsOneNotice()
 }
 
 
-
-namespace {
-// True when the grabbed pixel is the colour, give or take the rasteriser's rounding.
-bool drawnIn(const QImage &frame, QPointF at, const QColor &colour)
-{
-    const QColor pixel = frame.pixelColor(at.toPoint() * frame.devicePixelRatio());
-    return qAbs(pixel.red() - colour.red()) <= 3 && qAbs(pixel.green() - colour.green()) <= 3
-        && qAbs(pixel.blue() - colour.blue()) <= 3;
-}
-} // namespace
 
 void tst_QVOffersViewController::themeColoursTheWallWhileOpen()
 {

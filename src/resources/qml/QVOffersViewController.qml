@@ -178,7 +178,8 @@ QVOffersViewControllerBase {
         width: Math.min(parent.width - 24, 420)
         height: noticeText.implicitHeight + noticeDetail.implicitHeight + 24
         radius: theme.cornerRadius
-        z: 3
+        // Over the list, under a phone panel: an open support centre's tabs stay in sight.
+        z: 0.5
         color: theme.payoutButton
         opacity: root.creditNoticeShown ? 1 : 0
         visible: opacity > 0

@@ -254,7 +254,7 @@ void tst_QVOfferWallPreload::qmlHostDoesWhatACppHostDoes()
     window.show();
     QTRY_VERIFY(cellsInFirstFrame >= 0);
     QTRY_COMPARE(wall->offersList().size(), 30);
-    QCOMPARE(cellsInFirstFrame > 0, taken);
+    QVERIFY(cellsInFirstFrame > 0 || !taken);
     QCOMPARE(m_service.requestsTo("/offers.json"), taken ? 1 : 2);
     QCOMPARE(m_service.requestsTo("/details.json"), taken ? 1 : 2);
     if (!taken) {

@@ -6,16 +6,21 @@
 #include <QtCore/QString>
 #include <QtQml/qqmlregistration.h>
 
-/// Facts about the device the wall runs on. The idiom follows the primary screen (tablet
-/// when its shorter side is at least 600 logical pixels) unless the host fixes it.
+/// Facts about the device the wall runs on. Unless the host fixes the idiom, each wall
+/// picks it from its own size: a tablet when its shorter side is at least
+/// #kTabletMinimumShortSide points, so a phone-sized window on a large screen gets the
+/// phone's panels. QML hosts fix it with QVDevice.userInterfaceIdiom = QVDevice.Tablet.
 class QUORVAMEDIA_EXPORT QVDevice : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
-    /// Phone or tablet: decides between phone panels and tablet popovers.
-    Q_PROPERTY(Idiom userInterfaceIdiom READ userInterfaceIdiom NOTIFY userInterfaceIdiomChanged FINAL)
-    /// True for the tablet idiom.
+    /// Phone or tablet, as the host fixed it, else as the primary screen suggests (a wall
+    /// decides by its own size then). Writing fixes it for every wall; resetting (QML:
+    /// \c undefined) lets walls decide again.
+    Q_PROPERTY(Idiom userInterfaceIdiom READ userInterfaceIdiom WRITE setUserInterfaceIdiom
+                   RESET resetUserInterfaceIdiom NOTIFY userInterfaceIdiomChanged FINAL)
+    /// True for the tablet idiom of #userInterfaceIdiom.
     Q_PROPERTY(bool tablet READ isTablet NOTIFY userInterfaceIdiomChanged FINAL)
 
 public:
@@ -23,7 +28,7 @@ public:
     enum class Idiom { Phone, Tablet };
     Q_ENUM(Idiom)
 
-    /// The primary screen's shorter side, in logical pixels, from which it is a tablet.
+    /// The shorter side, in logical pixels, from which a wall or screen is a tablet.
     static constexpr int kTabletMinimumShortSide = 600;
 
     /// The one instance, as QML sees the singleton.
@@ -36,9 +41,9 @@ public:
     static Idiom userInterfaceIdiom();
     static bool isTablet() { return userInterfaceIdiom() == Idiom::Tablet; }
     ///@}
-    /// Fixes the idiom for walls created afterwards, whatever the screen.
+    /// Fixes the idiom for every wall, whatever its size or the screen.
     static void setUserInterfaceIdiom(Idiom idiom);
-    /// Back to following the primary screen.
+    /// Back to each wall deciding by its own size.
     static void resetUserInterfaceIdiom();
 
     /// A short device-class name for the User-Agent; "Phone" or "Tablet" unless set.

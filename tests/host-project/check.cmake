@@ -1,5 +1,6 @@
 # Installs the library into a scratch prefix, then configures, builds and runs a host
-# project that finds it with find_package.
+# project that finds it with find_package, builds the examples against it, and lints the
+# examples' QML and every documented wall property against the installed QML module.
 file(REMOVE_RECURSE ${WORK_DIR})
 set(prefix ${WORK_DIR}/prefix)
 execute_process(COMMAND ${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix} --component Unspecified
@@ -28,6 +29,25 @@ if(NOT rc EQUAL 0)
 endif()
 execute_process(COMMAND ${WORK_DIR}/build/quorva-host RESULT_VARIABLE rc OUTPUT_VARIABLE out)
 message(STATUS "host printed: ${out}")
-if(NOT rc EQUAL 0 OR NOT out MATCHES "PROJECT:QuorvaMedia-1.1.0" OR NOT out MATCHES "release 2.0.0")
+if(NOT rc EQUAL 0 OR NOT out MATCHES "PROJECT:QuorvaMedia-1.1.0" OR NOT out MATCHES "release 2.1.0")
     message(FATAL_ERROR "host project did not run against the installed library")
+endif()
+
+foreach(qml ${SOURCE_DIR}/examples/qml-host/Main.qml ${SOURCE_DIR}/tests/host-project/EveryWallProperty.qml)
+    execute_process(COMMAND ${QMLLINT} -I ${prefix}/lib/qml ${qml} RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE out)
+    if(NOT rc EQUAL 0 OR NOT out STREQUAL "")
+        message(FATAL_ERROR "qmllint against the installed module:\n${out}")
+    endif()
+endforeach()
+if(NOT SANITIZE)
+    foreach(example qml-host cpp-host)
+        execute_process(COMMAND ${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/${example} -B ${WORK_DIR}/${example}
+                                -DCMAKE_PREFIX_PATH=${prefix} OUTPUT_QUIET RESULT_VARIABLE rc)
+        if(rc EQUAL 0)
+            execute_process(COMMAND ${CMAKE_COMMAND} --build ${WORK_DIR}/${example} OUTPUT_QUIET RESULT_VARIABLE rc)
+        endif()
+        if(NOT rc EQUAL 0)
+            message(FATAL_ERROR "the ${example} example did not build against the installed package")
+        endif()
+    endforeach()
 endif()

@@ -82,7 +82,12 @@ QStringList badTexts(QQuickWindow *window, bool mirrored)
                            .arg(item->width())
                            .arg(inWindow.left())
                            .arg(inWindow.right())
-                           .arg(window->width()));
+                           .arg(window->width()) + [item] {
+                               QString chain;
+                               for (QQuickItem *p = item; p; p = p->parentItem())
+                                   chain += QStringLiteral(" < %1:%2:%3").arg(QLatin1String(p->metaObject()->className()), p->objectName()).arg(p->width());
+                               return chain;
+                           }());
         if (mirrored && contentWidth < item->width() - 1
             && item->property("effectiveHorizontalAlignment").toInt() == Qt::AlignLeft)
             bad.append(QStringLiteral("starts left: ") + textOf(item));

@@ -44,13 +44,20 @@ public:
     }
 
     // Putting the wall into the shown window is what loads it. Returns once it is on
-    // screen and laid out, so a click lands where the user would see the button.
+    // screen and laid out, so a click lands where the user would see the button. A
+    // Wayland compositor hands a new window the keyboard focus a little after it shows;
+    // until then a field clicked takes no focus, so there it waits for that too. (On X11
+    // suites side by side share one server, where asking for the focus would take it
+    // from each other.)
     bool show()
     {
         wall->setParentItem(window->contentItem());
         wall->setSize(window->size());
         window->show();
-        return QTest::qWaitForWindowExposed(window.get()) && nextFrame();
+        const bool focusFromCompositor = QGuiApplication::platformName() == QLatin1String("wayland");
+        return QTest::qWaitForWindowExposed(window.get())
+            && (!focusFromCompositor || QTest::qWaitFor([this] { return window->isActive(); }, kPatienceMs))
+            && nextFrame();
     }
 
     // Waits until a frame that began after this call is on screen.

@@ -62,6 +62,14 @@ QStringList badTexts(QQuickWindow *window, bool mirrored)
         if (!isText || !item->isVisible() || item->opacity() == 0 || textOf(item).isEmpty())
             continue;
         const QRectF inWindow = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
+        // A list builds the rows below its view in idle time, and such a row may be seen
+        // half built (no width yet); it is laid out before it scrolls in.
+        QQuickItem *flickable = item->parentItem();
+        while (flickable && !flickable->inherits("QQuickFlickable"))
+            flickable = flickable->parentItem();
+        if (flickable && item->width() <= 0
+            && !flickable->mapRectToScene(flickable->boundingRect()).intersects(inWindow.adjusted(0, 0, 1, 1)))
+            continue;
         const qreal contentWidth = item->property("contentWidth").toReal();
         bool cut = item->property("truncated").toBool() || contentWidth > item->width() + 1
             || inWindow.left() < -1 || inWindow.right() > window->width() + 1;
@@ -75,19 +83,18 @@ QStringList badTexts(QQuickWindow *window, bool mirrored)
             else if (box->clip())
                 cut = !boxInWindow.adjusted(-1, -1, 1, 1).contains(shown);
         }
-        if (cut && !mayElide.contains(item->objectName()))
-            bad.append(QStringLiteral("cut: %1 (%2 wide in %3, at %4..%5 of %6)")
+        if (cut && !mayElide.contains(item->objectName())) {
+            QString boxes;
+            for (QQuickItem *box = item; box; box = box->parentItem())
+                boxes += QStringLiteral(" < %1 %2").arg(QLatin1String(box->metaObject()->className())).arg(box->width());
+            bad.append(QStringLiteral("cut: %1 (%2 wide at %3,%4 in a box %5 wide%6)")
                            .arg(textOf(item))
                            .arg(contentWidth)
-                           .arg(item->width())
                            .arg(inWindow.left())
-                           .arg(inWindow.right())
-                           .arg(window->width()) + [item] {
-                               QString chain;
-                               for (QQuickItem *p = item; p; p = p->parentItem())
-                                   chain += QStringLiteral(" < %1:%2:%3").arg(QLatin1String(p->metaObject()->className()), p->objectName()).arg(p->width());
-                               return chain;
-                           }());
+                           .arg(inWindow.top())
+                           .arg(item->width())
+                           .arg(boxes));
+        }
         if (mirrored && contentWidth < item->width() - 1
             && item->property("effectiveHorizontalAlignment").toInt() == Qt::AlignLeft)
             bad.append(QStringLiteral("starts left: ") + textOf(item));

@@ -9,7 +9,6 @@
 #include "../ui/QVDevice.h"
 #include "../ui/QVPictureNetwork.h"
 
-#include <QtCore/QRegularExpression>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
@@ -171,17 +170,15 @@ void QuorvaRestAPI::setServiceBaseAddress(const QString &hostAndOptionalPort)
     QString address = hostAndOptionalPort.trimmed();
     // Each request picks its own scheme, so a scheme written in front is dropped, with
     // a word, rather than doubled into every address.
-    static const QRegularExpression scheme(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]*://"));
-    if (const QRegularExpressionMatch match = scheme.match(address); match.hasMatch()) {
+    if (const qsizetype scheme = address.indexOf(QLatin1StringView("://")); scheme > 0) {
+        address.remove(0, scheme + 3);
         qCWarning(lcQuorvaDiagnostics).noquote()
-            << "service address" << hostAndOptionalPort << "takes no scheme: using" << address.mid(match.capturedLength());
-        address.remove(0, match.capturedLength());
+            << "service address" << hostAndOptionalPort << "takes no scheme: using" << address;
     }
     while (address.endsWith(QLatin1Char('/')))
         address.chop(1);
-    const QUrl check(QStringLiteral("https://") + address);
-    if (address.isEmpty() || !check.isValid() || check.host().isEmpty() || !check.path().isEmpty()
-        || !check.userInfo().isEmpty())
+    const auto notInAHost = [](QChar c) { return c.isSpace() || c == u'/' || c == u'@' || c == u'?' || c == u'#'; };
+    if (address.isEmpty() || std::any_of(address.cbegin(), address.cend(), notInAHost))
         qCWarning(lcQuorvaDiagnostics).noquote()
             << "service address" << hostAndOptionalPort << "is not \"host\" or \"host:port\": requests to it fail";
     d_func()->m_baseAddress = address;

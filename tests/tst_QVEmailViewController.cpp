@@ -355,7 +355,11 @@ void tst_QVEmailViewController::errorLooksComeBackOnTheFirstEdit()
     QVERIFY(strip->isVisible());
     harness.clickInForm(form, info->emailTextField());
     QQuickItem *clear = info->emailTextField()->findChild<QQuickItem *>(QStringLiteral("clearButton"));
-    QTRY_VERIFY(clear->isVisible());
+    QTRY_VERIFY2(clear->isVisible(), qPrintable(QStringLiteral("window active %1, focus in %2")
+                                                    .arg(harness.window->isActive())
+                                                    .arg(harness.window->activeFocusItem()
+                                                             ? harness.window->activeFocusItem()->objectName()
+                                                             : QStringLiteral("nothing"))));
     harness.click(clear);
     QCOMPARE(text(info->emailTextField()), QString());
     QCOMPARE(info->emailIconName(), QStringLiteral("email_field_icon"));

@@ -466,19 +466,8 @@ void tst_QVOffersViewController::creditsShowAsOneNotice()
     QCOMPARE(spoken->role(), QAccessible::AlertMessage);
     QCOMPARE(spoken->text(QAccessible::Name), QStringLiteral("+1,500 Gems"));
 
-    // It stays below a phone panel: the support centre's tabs are not covered.
-    harness.wall->onSupportPressed();
-    QTRY_VERIFY(harness.wall->supportVC() && !harness.wall->isOverlayAnimating());
-    auto *tabs = harness.wall->supportVC()->findChild<QQuickItem *>(QStringLiteral("segmentedControl"));
-    QVERIFY(harness.nextFrame());
-    const QImage frame = harness.window->grabWindow();
-    QVERIFY(harness.wall->creditNoticeShown());
-    QVERIFY(notice->mapRectToScene(notice->boundingRect()).contains(tabs->mapToScene(QPointF(tabs->width() / 2, 4))));
-    QVERIFY(!drawnIn(frame, tabs->mapToScene(QPointF(tabs->width() / 2, 4)), harness.wall->theme().payoutButton));
-    harness.wall->onSupportPressed();
-    QTRY_VERIFY(!harness.wall->isSupportViewOpen() && !harness.wall->isOverlayAnimating());
-
-    // Credits in a row add up; a reversal is not a credit.
+    // Credits that come while it shows add up (the next poll is one round trip, far
+    // inside the notice's four seconds); a reversal is not a credit.
     m_service.setHistory(200, R"({"transactions":[{"offer_name":"Reversal","currency_adjustment":-40},)"
                               R"({"offer_name":"Daily","currency_adjustment":250},)"
                               R"({"offer_name":"Sky Quest","currency_adjustment":1500},)"
@@ -487,11 +476,34 @@ void tst_QVOffersViewController::creditsShowAsOneNotice()
     QTRY_COMPARE(harness.wall->creditNoticeText(), QStringLiteral("+1,750 Gems"));
     QCOMPARE(harness.wall->creditNoticeDetail(), QStringLiteral("Sky Quest, Daily"));
     QCOMPARE(changed.count(), 2);
+    // It goes by itself.
+    QTRY_VERIFY_WITH_TIMEOUT(!harness.wall->creditNoticeShown(), QVOffersViewController::kCreditNoticeMs + kPatienceMs);
 
-    // It goes by itself, and a wall off screen shows nothing.
+    // A credit that comes while the phone support centre is open shows below the panel:
+    // the centre's tabs are not covered.
+    harness.wall->onSupportPressed();
+    QTRY_VERIFY(harness.wall->supportVC() && !harness.wall->isOverlayAnimating());
+    auto *tabs = harness.wall->supportVC()->findChild<QQuickItem *>(QStringLiteral("segmentedControl"));
+    m_service.setHistory(200, R"({"transactions":[{"offer_name":"Bonus","currency_adjustment":20},)"
+                              R"({"offer_name":"Reversal","currency_adjustment":-40},)"
+                              R"({"offer_name":"Daily","currency_adjustment":250},)"
+                              R"({"offer_name":"Sky Quest","currency_adjustment":1500},)"
+                              R"({"offer_name":"Old","currency_adjustment":10}]})");
+    watcher.checkNow();
+    QTRY_VERIFY(harness.wall->creditNoticeShown());
+    QCOMPARE(harness.wall->creditNoticeText(), QStringLiteral("+20 Gems"));
+    QVERIFY(harness.nextFrame());
+    const QImage frame = harness.window->grabWindow();
+    QVERIFY(notice->mapRectToScene(notice->boundingRect()).contains(tabs->mapToScene(QPointF(tabs->width() / 2, 4))));
+    QVERIFY(!drawnIn(frame, tabs->mapToScene(QPointF(tabs->width() / 2, 4)), harness.wall->theme().payoutButton));
+    harness.wall->onSupportPressed();
+    QTRY_VERIFY(!harness.wall->isSupportViewOpen() && !harness.wall->isOverlayAnimating());
+
+    // A wall off screen shows nothing.
     QTRY_VERIFY_WITH_TIMEOUT(!harness.wall->creditNoticeShown(), QVOffersViewController::kCreditNoticeMs + kPatienceMs);
     harness.wall->setVisible(false);
     m_service.setHistory(200, R"({"transactions":[{"offer_name":"Hidden","currency_adjustment":5},)"
+                              R"({"offer_name":"Bonus","currency_adjustment":20},)"
                               R"({"offer_name":"Reversal","currency_adjustment":-40},)"
                               R"({"offer_name":"Daily","currency_adjustment":250},)"
                               R"({"offer_name":"Sky Quest","currency_adjustment":1500},)"

@@ -189,6 +189,8 @@ TransferResult HttpTransport::perform(const TransferRequest &request)
     curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &onHeader);
     curl_easy_setopt(curl, CURLOPT_HEADERDATA, &reception);
     curl_easy_setopt(curl, CURLOPT_USERAGENT, request.userAgent.constData());
+    char reason[CURL_ERROR_SIZE] = {};
+    curl_easy_setopt(curl, CURLOPT_ERRORBUFFER, reason);
     // Verification stays on; the authorities come from the shared store, not from files
     // the library would read for this connection.
     curl_easy_setopt(curl, CURLOPT_SHARE, state.share);
@@ -227,10 +229,12 @@ TransferResult HttpTransport::perform(const TransferRequest &request)
         result.outcome = TransferResult::Outcome::TooLarge;
         result.exceededLimit = reception.exceededLimit > 0 ? reception.exceededLimit : request.maximumReplySize;
     } else if (code == CURLE_PEER_FAILED_VERIFICATION) {
-        result.setupProblem = "the service's certificate is not trusted: add its certificate authority "
-                              "(QuorvaRestAPI::addCaCertificates, or caCertificatesFile in QML)";
+        result.setupProblem = "the service's certificate is not trusted (" + QByteArray(reason)
+            + "): add its certificate authority (QuorvaRestAPI::addCaCertificates, or caCertificatesFile in QML)";
     } else if (code == CURLE_COULDNT_RESOLVE_HOST || code == CURLE_URL_MALFORMAT) {
         result.setupProblem = "the service address does not resolve: it takes \"host\" or \"host:port\"";
+    } else if (code == CURLE_COULDNT_CONNECT) {
+        result.setupProblem = "the service refused the connection: nothing listens at that host and port";
     }
     return result;
 }

@@ -35,8 +35,8 @@ struct TransferResult
     QByteArray body;
     qint64 exceededLimit = 0;   // with TooLarge: the cap the reply went past
     // With Failed, when the host's set-up is the likely cause (an untrusted certificate,
-    // an address that does not resolve): what to tell the developer.
-    const char *setupProblem = nullptr;
+    // an address that does not resolve, a refused connection): what to tell the developer.
+    QByteArray setupProblem;
 
     bool answered() const { return outcome == Outcome::Answered; }
 };

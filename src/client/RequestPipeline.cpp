@@ -37,7 +37,7 @@ void RequestPipeline::send(QThreadPool *pool, TransferRequest request, ResponseH
         else if (result.outcome == TransferResult::Outcome::TooLarge)
             qCWarning(lcQuorvaDiagnostics).noquote()
                 << request.name << "request stopped: the reply exceeds" << result.exceededLimit << "bytes";
-        else if (result.setupProblem)
+        else if (!result.setupProblem.isEmpty())
             qCWarning(lcQuorvaDiagnostics).noquote() << request.name << "request failed:" << result.setupProblem;
         postToGuiThread(std::move(onFailure));
     });

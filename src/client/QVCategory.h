@@ -3,7 +3,6 @@
 #include "quorvamedia_global.h"
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
-#include <QtQml/qqmlregistration.h>
 
 /// An offer category; categoryId is the text sent as category_id.
 /// A plain value type: copies are independent and cheap (implicitly shared strings). Its
@@ -11,7 +10,6 @@
 class QUORVAMEDIA_EXPORT QVCategory
 {
     Q_GADGET
-    QML_VALUE_TYPE(category)
     /// The text sent as the category's identifier.
     Q_PROPERTY(QString categoryId READ categoryId WRITE setCategoryId FINAL)
     /// The name shown in the filter panel.

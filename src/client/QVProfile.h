@@ -3,7 +3,6 @@
 #include "quorvamedia_global.h"
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
-#include <QtQml/qqmlregistration.h>
 
 /// Display settings of an offer-wall profile.
 /// A plain value type: copies are independent and cheap (implicitly shared strings). Its
@@ -11,7 +10,6 @@
 class QUORVAMEDIA_EXPORT QVProfile
 {
     Q_GADGET
-    QML_VALUE_TYPE(profile)
     /// Whether the wall shows the currency name in its title.
     Q_PROPERTY(bool showCurrency READ showCurrency WRITE setShowCurrency FINAL)
     /// The name of the app's currency, such as "Gems".

@@ -3,7 +3,6 @@
 #include "quorvamedia_global.h"
 #include <QtCore/QMetaType>
 #include <QtCore/QString>
-#include <QtQml/qqmlregistration.h>
 
 /// A sort choice: key is the label shown, value is what the service receives.
 /// A plain value type: copies are independent and cheap (implicitly shared strings). Its
@@ -11,7 +10,6 @@
 class QUORVAMEDIA_EXPORT QVSort
 {
     Q_GADGET
-    QML_VALUE_TYPE(sort)
     /// The label shown in the filter panel.
     Q_PROPERTY(QString key READ key WRITE setKey FINAL)
     /// What the service receives as the sort order.

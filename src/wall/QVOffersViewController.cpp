@@ -181,8 +181,14 @@ const QList<QVOffer> &QVOffersViewController::offersList() const { return d_func
 void QVOffersViewController::componentComplete()
 {
     QQuickItem::componentComplete();
+    // Declared in a document: load once the whole document is built, so that what its
+    // Component.onCompleted handlers set (the service's address, a preload) applies to the
+    // first request.
     if (window() && !d_func()->m_loaded)
-        viewDidLoad();
+        QMetaObject::invokeMethod(this, [this] {
+            if (window() && !d_func()->m_loaded)
+                viewDidLoad();
+        }, Qt::QueuedConnection);
 }
 
 void QVOffersViewController::itemChange(ItemChange change, const ItemChangeData &value)
@@ -411,6 +417,7 @@ void QVOffersViewController::watchForFirstOffersOnScreen()
         disconnect(*connection);
         d_func()->m_offersShownPending = false;
         d_func()->m_offersShown = true;
+        qCDebug(lcQuorvaDiagnostics, "first offers on screen");
         emit offersShown();
     }, Qt::QueuedConnection);
     host->update();

@@ -1,0 +1,12 @@
+#include <QtGui/QGuiApplication>
+#include <QtQml/QQmlApplicationEngine>
+
+int main(int argc, char **argv)
+{
+    QGuiApplication app(argc, argv);
+    QQmlApplicationEngine engine;
+    QObject::connect(&engine, &QQmlApplicationEngine::objectCreationFailed, &app, [] { QCoreApplication::exit(1); },
+                     Qt::QueuedConnection);
+    engine.load(QUrl(QStringLiteral("qrc:/FullQml/Main.qml")));
+    return app.exec();
+}

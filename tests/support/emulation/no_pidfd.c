@@ -6,6 +6,7 @@
 #include <dlfcn.h>
 #include <errno.h>
 #include <stdarg.h>
+#include <string.h>
 #include <sys/syscall.h>
 
 enum { IdTypePidFd = 3 }; // P_PIDFD, which older C libraries do not name
@@ -23,7 +24,9 @@ long syscall(long number, ...)
         return -1;
     }
     static long (*next)(long, ...);
-    if (!next)
-        next = (long (*)(long, ...))dlsym(RTLD_NEXT, "syscall");
+    if (!next) {
+        void *found = dlsym(RTLD_NEXT, "syscall");
+        memcpy(&next, &found, sizeof next); // ISO C has no cast from an object to a function pointer
+    }
     return next(number, a[0], a[1], a[2], a[3], a[4], a[5]);
 }

@@ -56,7 +56,6 @@ private slots:
     void phonePanelDropsInUnderTheHeader();
     void selectionRulesAndSavingReloadsFromZero();
     void savedChoiceReopensCheckedAndCategoriesLoadOnce();
-    void headerTapAndSupportPressCloseThePanel();
     void reopeningWhileThePanelSlidesOut();
     void savingWhileAPageIsInFlight();
     void tabletPopover();
@@ -210,26 +209,6 @@ void tst_QVFiltersViewController::savedChoiceReopensCheckedAndCategoriesLoadOnce
     const auto all = m_service.offersQueries().last();
     QVERIFY(!all.contains("category_id"));
     QVERIFY(!all.contains("featured_only"));
-}
-
-void tst_QVFiltersViewController::headerTapAndSupportPressCloseThePanel()
-{
-    WallHarness harness;
-    QVERIFY(harness.show());
-    QTRY_COMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
-    QVERIFY(openPanel(harness));
-    QQuickItem *header = harness.find(QStringLiteral("headerView"));
-    QTest::mouseClick(harness.window.get(), Qt::LeftButton, Qt::NoModifier,
-                      header->mapToScene(QPointF(header->width() / 2 + 60, header->height() / 2)).toPoint());
-    QVERIFY(!harness.wall->isFiltersViewOpen());
-    QVERIFY(harness.find(QStringLiteral("closeBtn"))->isVisible());
-    QCOMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
-    QTRY_VERIFY(harness.wall->filterVC() == nullptr);
-
-    // The same button closes it again.
-    QVERIFY(openPanel(harness));
-    harness.click(harness.find(QStringLiteral("filterBtn")));
-    QVERIFY(!harness.wall->isFiltersViewOpen());
 }
 
 void tst_QVFiltersViewController::reopeningWhileThePanelSlidesOut()

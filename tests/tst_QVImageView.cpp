@@ -5,7 +5,6 @@
 #include "QVImageView.h"
 #include "QVImageCache.h"
 
-
 #include <QtCore/QBuffer>
 #include <QtGui/QImage>
 #include <QtQuick/QQuickWindow>
@@ -38,7 +37,6 @@ private slots:
     void cachedAddressShowsAtOnceWithoutRequest();
     void failedLoadKeepsThePicture();
     void nonPictureClearsThePicture();
-    void twoViewsWithOneUncachedAddressFetchTwice();
     void startedDownloadRunsOnAfterNewAddress();
     void cacheIsBoundedByBytes();
     void laterAddressCancelsDownloadNotYetStarted();
@@ -133,16 +131,6 @@ void tst_QVImageView::nonPictureClearsThePicture()
     QVERIFY(!QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/page/5.png")).toString()));
 }
 
-void tst_QVImageView::twoViewsWithOneUncachedAddressFetchTwice()
-{
-    std::unique_ptr<QVImageView> a(newView());
-    std::unique_ptr<QVImageView> b(newView());
-    a->setImageWithURL(address(QStringLiteral("/red/6.png")));
-    b->setImageWithURL(address(QStringLiteral("/red/6.png")));
-    QTRY_VERIFY(a->hasImage() && b->hasImage());
-    QCOMPARE(m_server.requestCount(), 2);
-}
-
 void tst_QVImageView::startedDownloadRunsOnAfterNewAddress()
 {
     // Kept on purpose: once an earlier download has started, giving the view a new
@@ -192,8 +180,6 @@ void tst_QVImageView::laterAddressCancelsDownloadNotYetStarted()
     QCOMPARE(view->downloadOperation(), operation);
     QVERIFY(operation->cancelled);
 }
-
-
 
 void tst_QVImageView::pictureIsKeptAtTheSizeShown()
 {

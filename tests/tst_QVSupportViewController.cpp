@@ -162,6 +162,15 @@ void tst_QVSupportViewController::phonePanelsCloseEachOther()
     QVERIFY(!harness.wall->isFiltersViewOpen());
     QVERIFY(!harness.wall->isSupportViewOpen());
     QVERIFY(harness.wall->supportVC() == nullptr);
+
+    // A tap on the header closes the filter panel too.
+    harness.click(harness.find(QStringLiteral("filterBtn")));
+    QTRY_VERIFY(harness.wall->isFiltersViewOpen() && !harness.wall->isOverlayAnimating());
+    QTest::mouseClick(harness.window.get(), Qt::LeftButton, Qt::NoModifier,
+                      header->mapToScene(QPointF(header->width() / 2 + 60, header->height() / 2)).toPoint());
+    QVERIFY(!harness.wall->isFiltersViewOpen());
+    QVERIFY(harness.find(QStringLiteral("closeBtn"))->isVisible());
+    QTRY_VERIFY(harness.wall->filterVC() == nullptr);
 }
 
 void tst_QVSupportViewController::tabletPopoverHasItsOwnCloseButton()

@@ -29,7 +29,6 @@ private slots:
     void initTestCase();
     void init();
 
-    void versionSymbols();
     void userAgentHeaderIsSentOnEveryRequest();
     void dateString_data();
     void dateString();
@@ -133,15 +132,6 @@ void tst_QuorvaRestAPI::start(Kind kind, CallbackProbe &probe)
     }
     probe.requestReturned = true;
 }
-
-void tst_QuorvaRestAPI::versionSymbols()
-{
-    const char expected[] = "@(#)PROGRAM:QuorvaMedia  PROJECT:QuorvaMedia-1.1.0\n";
-    QCOMPARE(std::memcmp(QuorvaMediaVersionString, expected, sizeof expected), 0);
-    QCOMPARE(QuorvaMediaVersionNumber, 1.1);
-}
-
-
 
 void tst_QuorvaRestAPI::userAgentHeaderIsSentOnEveryRequest()
 {
@@ -301,7 +291,6 @@ void tst_QuorvaRestAPI::offersMoreFlagFollowsStatus()
     QCOMPARE(receivedMore, more);
 }
 
-
 void tst_QuorvaRestAPI::addressesAndSchemes()
 {
     QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
@@ -325,7 +314,6 @@ void tst_QuorvaRestAPI::addressesAndSchemes()
     QCOMPARE(r.target, std::string("/corvel/api/publisher/pub1/profile/wall2/user/user3/transactions.json"));
     QCOMPARE(probe.failures, 0);
 }
-
 
 void tst_QuorvaRestAPI::profileNotFoundIsSilent()
 {

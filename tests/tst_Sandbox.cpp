@@ -34,13 +34,10 @@ private slots:
     void initTestCase();
     void init();
 
-    void pagesThroughTheWholeCatalogue();
     void badInputIsRejectedAndNothingStored_data();
     void badInputIsRejectedAndNothingStored();
     void ticketsSurviveARestart();
     void creditsComeFirstInTheHistory();
-    void ticketsAreFiledOncePerCall_data();
-    void ticketsAreFiledOncePerCall();
     void stalledPeersAreClosedAndServingGoesOn();
     void overflowingIdsAreNotFound_data();
     void overflowingIdsAreNotFound();
@@ -51,7 +48,6 @@ private slots:
 private:
     RawReply raw(const QByteArray &verb, const QString &path, const QByteArray &body = {},
                  const SandboxProcess *sandbox = nullptr);
-    QList<QVOffer> fetchPage(quint64 offset, bool *more);
     void useSandbox(const SandboxProcess &sandbox);
 
     std::unique_ptr<SandboxProcess> m_sandbox;
@@ -96,47 +92,6 @@ RawReply tst_Sandbox::raw(const QByteArray &verb, const QString &path, const QBy
     reply->deleteLater();
     return result;
 }
-
-QList<QVOffer> tst_Sandbox::fetchPage(quint64 offset, bool *more)
-{
-    QList<QVOffer> page;
-    CallbackProbe probe;
-    QuorvaRestAPI::sharedInstance()->fetchOffers(offset, {}, {}, false,
-        [&](const QList<QVOffer> &offers, bool hasMore) { ++probe.successes; page = offers; *more = hasMore; },
-        probe.failure());
-    if (!QTest::qWaitFor([&] { return probe.finished(); }, kPatienceMs) || probe.failures)
-        *more = false;
-    return page;
-}
-
-void tst_Sandbox::pagesThroughTheWholeCatalogue()
-{
-    QSet<QString> ids;
-    bool more = true;
-    int pages = 0;
-    while (more && pages < 50) {
-        const QList<QVOffer> page = fetchPage(ids.size(), &more);
-        if (more) {
-            QVERIFY(!page.isEmpty());
-            QVERIFY(page.size() <= 30);
-        }
-        for (const QVOffer &offer : page) {
-            QVERIFY2(!ids.contains(offer.offerId()), "an offer appeared on two pages");
-            ids.insert(offer.offerId());
-            QVERIFY(offer.imageURL().startsWith(QStringLiteral("https://127.0.0.1:")));
-            QVERIFY(!offer.currencyCount().isEmpty());
-        }
-        ++pages;
-    }
-    QVERIFY(!more);
-    QCOMPARE(ids.size(), 320);
-    QCOMPARE(pages, 12); // 10 full pages, a partial one, then no content
-}
-
-
-
-
-
 
 void tst_Sandbox::badInputIsRejectedAndNothingStored_data()
 {
@@ -228,48 +183,6 @@ void tst_Sandbox::ticketsSurviveARestart()
     QCOMPARE(stored[0][QStringLiteral("offer_name")].toString(), QStringLiteral("Dragon Realms"));
     QCOMPARE(stored[0][QStringLiteral("user")].toString(), QStringLiteral("user-1"));
     QVERIFY(!stored[1].toObject().contains(QStringLiteral("message")));
-}
-
-
-
-
-
-void tst_Sandbox::ticketsAreFiledOncePerCall_data()
-{
-    QTest::addColumn<QStringList>("faults");
-    QTest::addColumn<int>("calls");
-    QTest::addColumn<int>("failures");
-    QTest::newRow("every connection dropped after the ticket") << QStringList{"--drop-connections"} << 1 << 1;
-    QTest::newRow("every second connection dropped") << QStringList{"--drop-every", "2"} << 5 << 2;
-}
-
-void tst_Sandbox::ticketsAreFiledOncePerCall()
-{
-    QFETCH(QStringList, faults);
-    QFETCH(int, calls);
-    QFETCH(int, failures);
-    QTemporaryDir data;
-    CallbackProbe probe;
-    {
-        // The sandbox stores each ticket, then hangs up on the faulty connections.
-        SandboxProcess faulty(faults << QStringLiteral("--fault-path") << QStringLiteral("tickets.json"), data.path());
-        QVERIFY(faulty.isRunning());
-        QuorvaRestAPI::sharedInstance()->addCaCertificates(faulty.caCertificates());
-        useSandbox(faulty);
-        for (int call = 0; call < calls; ++call) {
-            QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: ")));
-            QuorvaRestAPI::sharedInstance()->createSupportTicket(
-                QStringLiteral("Ann"), QStringLiteral("ann@example.com"), QStringLiteral("2"),
-                QStringLiteral("call %1").arg(call), {}, {}, [&](const QVariant &) { ++probe.successes; },
-                probe.failure());
-            // One at a time, so that "every second" means every second call.
-            QTRY_COMPARE(probe.successes + probe.failures, call + 1);
-        }
-    }
-    QCOMPARE(probe.failures, failures);
-    SandboxProcess clean({}, data.path());
-    const QJsonArray stored = raw("GET", QStringLiteral("/sandbox/tickets.json"), {}, &clean).json()[QStringLiteral("tickets")].toArray();
-    QCOMPARE(stored.size(), calls);
 }
 
 namespace {

@@ -48,6 +48,8 @@ private slots:
     void everyStatusIsAResponse();
     void faultyTransfersEndOnce_data();
     void faultyTransfersEndOnce();
+    void serviceAddressSaysWhatIsWrong_data();
+    void serviceAddressSaysWhatIsWrong();
     void refusedConnectionFails();
     void untrustedServerFails();
     void absentRequiredValueStopsTheProgram_data();
@@ -503,6 +505,30 @@ void tst_QuorvaRestAPI::faultyTransfersEndOnce()
     QCOMPARE(m_server.requestCount(), 1);
     QVERIFY(!probe.ranBeforeReturn); // callbacks run later, on the GUI thread
     QVERIFY(!probe.ranOffGuiThread);
+}
+
+void tst_QuorvaRestAPI::serviceAddressSaysWhatIsWrong_data()
+{
+    QTest::addColumn<QString>("written");
+    QTest::addColumn<QString>("used");
+    QTest::addColumn<QString>("warning"); // empty: none
+    QTest::newRow("host and port") << "api.example.com:8443" << "api.example.com:8443" << "";
+    QTest::newRow("a scheme in front") << "https://api.example.com" << "api.example.com"
+        << "service address https://api.example.com takes no scheme: using api.example.com";
+    QTest::newRow("a path") << "api.example.com/v2" << "api.example.com/v2"
+        << "service address api.example.com/v2 is not \"host\" or \"host:port\": requests to it fail";
+}
+
+void tst_QuorvaRestAPI::serviceAddressSaysWhatIsWrong()
+{
+    QFETCH(QString, written);
+    QFETCH(QString, used);
+    QFETCH(QString, warning);
+    if (!warning.isEmpty())
+        QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(written);
+    QCOMPARE(QuorvaRestAPI::sharedInstance()->serviceBaseAddress(), used);
 }
 
 void tst_QuorvaRestAPI::refusedConnectionFails()

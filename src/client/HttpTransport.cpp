@@ -161,6 +161,8 @@ TransferResult HttpTransport::perform(const TransferRequest &request)
 {
     Shared &state = shared();
     TransferResult result;
+    // Declared before the handle so that it outlives the handle's clean-up.
+    char reason[CURL_ERROR_SIZE] = {};
     std::unique_ptr<CURL, HandleDeleter> handle(curl_easy_init());
     if (!handle)
         return result;
@@ -189,7 +191,6 @@ TransferResult HttpTransport::perform(const TransferRequest &request)
     curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &onHeader);
     curl_easy_setopt(curl, CURLOPT_HEADERDATA, &reception);
     curl_easy_setopt(curl, CURLOPT_USERAGENT, request.userAgent.constData());
-    char reason[CURL_ERROR_SIZE] = {};
     curl_easy_setopt(curl, CURLOPT_ERRORBUFFER, reason);
     // Verification stays on; the authorities come from the shared store, not from files
     // the library would read for this connection.

@@ -32,178 +32,167 @@ class tst_QVImageView : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cachedAddressShowsAtOnceWithoutRequest();
-    void failedLoadKeepsThePicture();
-    void nonPictureClearsThePicture();
-    void startedDownloadRunsOnAfterNewAddress();
-    void cacheIsBoundedByBytes();
-    void laterAddressCancelsDownloadNotYetStarted();
-    void pictureIsKeptAtTheSizeShown();
+    void initTestCase()
+    {
+        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_server.caCertificates());
+        m_window.resize(200, 200);
+        m_window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&m_window));
+        const QByteArray red = pngOf(Qt::red);
+        const QByteArray blue = pngOf(Qt::blue);
+        const QByteArray large = pngOf(Qt::green, 400);
+        m_server.respond([red, blue, large](const HttpRequest &request) {
+            if (request.path.starts_with("/large"))
+                return HttpResponse::json(200, large.toStdString());
+            if (request.path.starts_with("/red"))
+                return HttpResponse::json(200, red.toStdString());
+            if (request.path.starts_with("/blue"))
+                return HttpResponse::json(200, blue.toStdString());
+            if (request.path.starts_with("/page"))
+                return HttpResponse::json(404, "<html>not a picture</html>");
+            HttpResponse dropped;
+            dropped.fault = HttpResponse::Fault::DropConnection;
+            return dropped;
+        });
+    }
+
+    void init()
+    {
+        QVImageCache::sharedImageCache()->clear();
+        QVImageCache::sharedImageCache()->setLimitBytes(QVImageCache::kDefaultLimitBytes);
+        m_server.clearRequests();
+    }
+
+    void cachedAddressShowsAtOnceWithoutRequest()
+    {
+        std::unique_ptr<QVImageView> first(newView());
+        first->setImageWithURL(address(QStringLiteral("/red/1.png")));
+        QVERIFY(!first->hasImage()); // nothing until the download lands
+        QTRY_VERIFY(first->hasImage());
+        QCOMPARE(first->image().pixelColor(0, 0), QColor(Qt::red));
+        QCOMPARE(m_server.requestCount(), 1);
+        QVERIFY(m_server.lastRequest().header("user-agent").find("Quorva-SDK") == std::string::npos);
+
+        std::unique_ptr<QVImageView> second(newView());
+        second->setImageWithURL(address(QStringLiteral("/red/1.png")));
+        QVERIFY2(second->hasImage(), "a cached picture is shown synchronously");
+        QVERIFY(!second->downloadOperation()); // no download was even started
+    }
+
+    void failedLoadKeepsThePicture()
+    {
+        std::unique_ptr<QVImageView> view(newView());
+        view->setImageWithURL(address(QStringLiteral("/blue/2.png")));
+        QTRY_VERIFY(view->hasImage());
+        QSignalSpy changed(view.get(), &QVImageView::imageChanged);
+        view->setImageWithURL(address(QStringLiteral("/dropped/3.png")));
+        // The network layer may repeat a dropped picture GET; the outcome is the same.
+        QTRY_VERIFY(view->downloadOperation()->finished);
+        QCOMPARE(changed.count(), 0);
+        QCOMPARE(view->image().pixelColor(0, 0), QColor(Qt::blue));
+        QVERIFY(!QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/dropped/3.png")).toString()));
+    }
+
+    void nonPictureClearsThePicture()
+    {
+        std::unique_ptr<QVImageView> view(newView());
+        view->setImageWithURL(address(QStringLiteral("/blue/4.png")));
+        QTRY_VERIFY(view->hasImage());
+        view->setImageWithURL(address(QStringLiteral("/page/5.png")));
+        QTRY_VERIFY(!view->hasImage());
+        QVERIFY(!QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/page/5.png")).toString()));
+    }
+
+    void startedDownloadRunsOnAfterNewAddress()
+    {
+        // Kept on purpose: once an earlier download has started, giving the view a new
+        // uncached address does not stop it, and both pictures arrive.
+        std::unique_ptr<QVImageView> view(newView());
+        view->setImageWithURL(address(QStringLiteral("/red/9.png")));
+        QTRY_COMPARE(m_server.requestCount(), 1);
+        view->setImageWithURL(address(QStringLiteral("/blue/10.png")));
+        QTRY_COMPARE(m_server.requestCount(), 2);
+        QTRY_VERIFY(QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/red/9.png")).toString()));
+        QTRY_VERIFY(QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/blue/10.png")).toString()));
+        QVERIFY(view->hasImage());
+    }
+
+    void cacheIsBoundedByBytes()
+    {
+        QVImageCache *cache = QVImageCache::sharedImageCache();
+        cache->setLimitBytes(64 * 1024);
+        QImage big(64, 64, QImage::Format_ARGB32_Premultiplied); // 16 KiB each
+        for (int i = 0; i < 20; ++i) {
+            big.fill(QColor(i, 0, 0));
+            cache->insert(QStringLiteral("k%1").arg(i), big.copy());
+            QVERIFY(cache->totalBytes() <= cache->limitBytes());
+        }
+        QVERIFY(cache->count() <= 4);
+        QVERIFY(cache->contains(QStringLiteral("k19")));
+        QVERIFY(!cache->contains(QStringLiteral("k0")));
+    }
+
+    void laterAddressCancelsDownloadNotYetStarted()
+    {
+        std::unique_ptr<QVImageView> view(newView());
+        // Both calls in one pass: the first download is cancelled before it starts.
+        view->setImageWithURL(address(QStringLiteral("/red/7.png")));
+        view->setImageWithURL(address(QStringLiteral("/blue/8.png")));
+        QTRY_VERIFY(view->hasImage());
+        // The first was dropped before it started, so by now it can no longer arrive.
+        QCOMPARE(view->image().pixelColor(0, 0), QColor(Qt::blue));
+        QCOMPARE(m_server.requestCount(), 1);
+        QCOMPARE(m_server.lastRequest().path, std::string("/blue/8.png"));
+
+        // A cached address cancels the stored operation, which stays stored.
+        const auto operation = view->downloadOperation();
+        QCOMPARE(operation->url, address(QStringLiteral("/blue/8.png")));
+        QVERIFY(!operation->cancelled);
+        view->setImageWithURL(address(QStringLiteral("/blue/8.png")));
+        QCOMPARE(view->downloadOperation(), operation);
+        QVERIFY(operation->cancelled);
+    }
+
+    void pictureIsKeptAtTheSizeShown()
+    {
+        // A 400-pixel picture in a 40-point view is decoded, cropped and rounded once, and
+        // the cache holds it at the size shown rather than at full size.
+        std::unique_ptr<QVImageView> view(newView());
+        view->setCornerRadius(10);
+        const QSize shown = (view->size() * m_window.effectiveDevicePixelRatio()).toSize();
+        view->setImageWithURL(address(QStringLiteral("/large/11.png")));
+        QTRY_VERIFY(view->hasImage());
+        QCOMPARE(view->image().size(), shown);
+        QCOMPARE(view->image().pixelColor(shown.width() / 2, shown.height() / 2), QColor(Qt::green));
+        QCOMPARE(view->image().pixelColor(0, 0).alpha(), 0); // outside the rounded corner
+        const QImage cached = QVImageCache::sharedImageCache()->object(address(QStringLiteral("/large/11.png")).toString());
+        QCOMPARE(cached.size(), shown);
+        QVERIFY(QVImageCache::sharedImageCache()->statistics().largestDecoded.width() < 400);
+
+        // A view of another size shows the cached picture too, prepared for its own shape.
+        std::unique_ptr<QVImageView> other(newView());
+        other->setSize({20, 20});
+        other->setImageWithURL(address(QStringLiteral("/large/11.png")));
+        QVERIFY(other->hasImage());
+        QCOMPARE(m_server.requestCount(), 1);
+    }
 
 private:
     QUrl address(const QString &path) const
     {
         return QUrl(QStringLiteral("https://%1%2").arg(m_server.baseAddress(), path));
     }
-    QVImageView *newView();
+
+    QVImageView *newView()
+    {
+        auto *view = new QVImageView(m_window.contentItem());
+        view->setSize({40, 40});
+        return view;
+    }
 
     ScriptedServer m_server;
     QQuickWindow m_window;
 };
-
-void tst_QVImageView::initTestCase()
-{
-    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_server.caCertificates());
-    m_window.resize(200, 200);
-    m_window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&m_window));
-    const QByteArray red = pngOf(Qt::red);
-    const QByteArray blue = pngOf(Qt::blue);
-    const QByteArray large = pngOf(Qt::green, 400);
-    m_server.respond([red, blue, large](const HttpRequest &request) {
-        if (request.path.starts_with("/large"))
-            return HttpResponse::json(200, large.toStdString());
-        if (request.path.starts_with("/red"))
-            return HttpResponse::json(200, red.toStdString());
-        if (request.path.starts_with("/blue"))
-            return HttpResponse::json(200, blue.toStdString());
-        if (request.path.starts_with("/page"))
-            return HttpResponse::json(404, "<html>not a picture</html>");
-        HttpResponse dropped;
-        dropped.fault = HttpResponse::Fault::DropConnection;
-        return dropped;
-    });
-}
-
-void tst_QVImageView::init()
-{
-    QVImageCache::sharedImageCache()->clear();
-    QVImageCache::sharedImageCache()->setLimitBytes(QVImageCache::kDefaultLimitBytes);
-    m_server.clearRequests();
-}
-
-QVImageView *tst_QVImageView::newView()
-{
-    auto *view = new QVImageView(m_window.contentItem());
-    view->setSize({40, 40});
-    return view;
-}
-
-void tst_QVImageView::cachedAddressShowsAtOnceWithoutRequest()
-{
-    std::unique_ptr<QVImageView> first(newView());
-    first->setImageWithURL(address(QStringLiteral("/red/1.png")));
-    QVERIFY(!first->hasImage()); // nothing until the download lands
-    QTRY_VERIFY(first->hasImage());
-    QCOMPARE(first->image().pixelColor(0, 0), QColor(Qt::red));
-    QCOMPARE(m_server.requestCount(), 1);
-    QVERIFY(m_server.lastRequest().header("user-agent").find("Quorva-SDK") == std::string::npos);
-
-    std::unique_ptr<QVImageView> second(newView());
-    second->setImageWithURL(address(QStringLiteral("/red/1.png")));
-    QVERIFY2(second->hasImage(), "a cached picture is shown synchronously");
-    QVERIFY(!second->downloadOperation()); // no download was even started
-}
-
-void tst_QVImageView::failedLoadKeepsThePicture()
-{
-    std::unique_ptr<QVImageView> view(newView());
-    view->setImageWithURL(address(QStringLiteral("/blue/2.png")));
-    QTRY_VERIFY(view->hasImage());
-    QSignalSpy changed(view.get(), &QVImageView::imageChanged);
-    view->setImageWithURL(address(QStringLiteral("/dropped/3.png")));
-    // The network layer may repeat a dropped picture GET; the outcome is the same.
-    QTRY_VERIFY(view->downloadOperation()->finished);
-    QCOMPARE(changed.count(), 0);
-    QCOMPARE(view->image().pixelColor(0, 0), QColor(Qt::blue));
-    QVERIFY(!QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/dropped/3.png")).toString()));
-}
-
-void tst_QVImageView::nonPictureClearsThePicture()
-{
-    std::unique_ptr<QVImageView> view(newView());
-    view->setImageWithURL(address(QStringLiteral("/blue/4.png")));
-    QTRY_VERIFY(view->hasImage());
-    view->setImageWithURL(address(QStringLiteral("/page/5.png")));
-    QTRY_VERIFY(!view->hasImage());
-    QVERIFY(!QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/page/5.png")).toString()));
-}
-
-void tst_QVImageView::startedDownloadRunsOnAfterNewAddress()
-{
-    // Kept on purpose: once an earlier download has started, giving the view a new
-    // uncached address does not stop it, and both pictures arrive.
-    std::unique_ptr<QVImageView> view(newView());
-    view->setImageWithURL(address(QStringLiteral("/red/9.png")));
-    QTRY_COMPARE(m_server.requestCount(), 1);
-    view->setImageWithURL(address(QStringLiteral("/blue/10.png")));
-    QTRY_COMPARE(m_server.requestCount(), 2);
-    QTRY_VERIFY(QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/red/9.png")).toString()));
-    QTRY_VERIFY(QVImageCache::sharedImageCache()->contains(address(QStringLiteral("/blue/10.png")).toString()));
-    QVERIFY(view->hasImage());
-}
-
-void tst_QVImageView::cacheIsBoundedByBytes()
-{
-    QVImageCache *cache = QVImageCache::sharedImageCache();
-    cache->setLimitBytes(64 * 1024);
-    QImage big(64, 64, QImage::Format_ARGB32_Premultiplied); // 16 KiB each
-    for (int i = 0; i < 20; ++i) {
-        big.fill(QColor(i, 0, 0));
-        cache->insert(QStringLiteral("k%1").arg(i), big.copy());
-        QVERIFY(cache->totalBytes() <= cache->limitBytes());
-    }
-    QVERIFY(cache->count() <= 4);
-    QVERIFY(cache->contains(QStringLiteral("k19")));
-    QVERIFY(!cache->contains(QStringLiteral("k0")));
-}
-
-void tst_QVImageView::laterAddressCancelsDownloadNotYetStarted()
-{
-    std::unique_ptr<QVImageView> view(newView());
-    // Both calls in one pass: the first download is cancelled before it starts.
-    view->setImageWithURL(address(QStringLiteral("/red/7.png")));
-    view->setImageWithURL(address(QStringLiteral("/blue/8.png")));
-    QTRY_VERIFY(view->hasImage());
-    // The first was dropped before it started, so by now it can no longer arrive.
-    QCOMPARE(view->image().pixelColor(0, 0), QColor(Qt::blue));
-    QCOMPARE(m_server.requestCount(), 1);
-    QCOMPARE(m_server.lastRequest().path, std::string("/blue/8.png"));
-
-    // A cached address cancels the stored operation, which stays stored.
-    const auto operation = view->downloadOperation();
-    QCOMPARE(operation->url, address(QStringLiteral("/blue/8.png")));
-    QVERIFY(!operation->cancelled);
-    view->setImageWithURL(address(QStringLiteral("/blue/8.png")));
-    QCOMPARE(view->downloadOperation(), operation);
-    QVERIFY(operation->cancelled);
-}
-
-void tst_QVImageView::pictureIsKeptAtTheSizeShown()
-{
-    // A 400-pixel picture in a 40-point view is decoded, cropped and rounded once, and
-    // the cache holds it at the size shown rather than at full size.
-    std::unique_ptr<QVImageView> view(newView());
-    view->setCornerRadius(10);
-    const QSize shown = (view->size() * m_window.effectiveDevicePixelRatio()).toSize();
-    view->setImageWithURL(address(QStringLiteral("/large/11.png")));
-    QTRY_VERIFY(view->hasImage());
-    QCOMPARE(view->image().size(), shown);
-    QCOMPARE(view->image().pixelColor(shown.width() / 2, shown.height() / 2), QColor(Qt::green));
-    QCOMPARE(view->image().pixelColor(0, 0).alpha(), 0); // outside the rounded corner
-    const QImage cached = QVImageCache::sharedImageCache()->object(address(QStringLiteral("/large/11.png")).toString());
-    QCOMPARE(cached.size(), shown);
-    QVERIFY(QVImageCache::sharedImageCache()->statistics().largestDecoded.width() < 400);
-
-    // A view of another size shows the cached picture too, prepared for its own shape.
-    std::unique_ptr<QVImageView> other(newView());
-    other->setSize({20, 20});
-    other->setImageWithURL(address(QStringLiteral("/large/11.png")));
-    QVERIFY(other->hasImage());
-    QCOMPARE(m_server.requestCount(), 1);
-}
 
 QTEST_MAIN(tst_QVImageView)
 #include "tst_QVImageView.moc"

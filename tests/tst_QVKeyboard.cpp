@@ -11,12 +11,73 @@ class tst_QVKeyboard : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
+    void initTestCase()
+    {
+        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
+    }
+
+    void init()
+    {
+        QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
+    }
+
     void cleanup() { finishPendingRequests(); }
 
-    void typingOnTheKeysKeepsTheFieldAndSendInSight();
-    void tabletKeepsItsOwnRules();
+    void typingOnTheKeysKeepsTheFieldAndSendInSight()
+    {
+        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
+        SupportHarness harness;
+        QQuickItem *panel = showWithKeyboard(harness);
+        QVERIFY(panel);
+        QVEmailViewController *form = harness.openForm();
+        QVERIFY(form);
+        harness.clickInForm(form, form->chooseSubjectView()->reportBtn());
+        QTRY_VERIFY(form->sendButtonView());
+
+        QQuickItem *name = form->enterInfoView()->nameTextField();
+        harness.clickInForm(form, name);
+        QTRY_VERIFY(QGuiApplication::inputMethod()->isVisible());
+        QTRY_COMPARE(form->keyboardInset(), panel->height());
+        auto keyboardTop = [&] { return harness.window->height() - panel->height(); };
+        QTRY_VERIFY(bottomInWindow(name) <= keyboardTop());
+        QVERIFY(typeOnKeys(harness, panel, name, QStringLiteral("ada")));
+        QCOMPARE(name->property("text").toString().toLower(), QStringLiteral("ada"));
+
+        QQuickItem *email = form->enterInfoView()->emailTextField();
+        harness.clickInForm(form, email);
+        QTRY_VERIFY(email->hasActiveFocus());
+        QTRY_VERIFY(bottomInWindow(email) <= keyboardTop());
+        QVERIFY(typeOnKeys(harness, panel, email, QStringLiteral("ada@example.com")));
+        QCOMPARE(email->property("text").toString(), QStringLiteral("ada@example.com"));
+
+        // Writing the details brings the send button up above the keyboard.
+        harness.clickInForm(form, form->enterCommentView()->commentInputField());
+        QTRY_VERIFY(form->enterCommentView()->commentInputField()->hasActiveFocus());
+        QTRY_VERIFY(bottomInWindow(form->sendButtonView()) <= keyboardTop() + 0.5);
+
+        QGuiApplication::inputMethod()->hide();
+        QTRY_COMPARE(form->keyboardInset(), 0.0);
+    }
+
+    void tabletKeepsItsOwnRules()
+    {
+        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Tablet);
+        const auto phone = qScopeGuard([] { QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone); });
+        SupportHarness harness(QSize(1024, 768));
+        QQuickItem *panel = showWithKeyboard(harness);
+        QVERIFY(panel);
+        QVEmailViewController *form = harness.openForm();
+        QVERIFY(form);
+        QQuickItem *name = form->enterInfoView()->nameTextField();
+        harness.clickInForm(form, name);
+        QTRY_VERIFY(QGuiApplication::inputMethod()->isVisible());
+        QTRY_VERIFY(panel->y() < harness.window->height());
+        // A tablet's form makes no room: its popover floats above the keyboard's rows.
+        QCOMPARE(form->keyboardInset(), 0.0);
+        QGuiApplication::inputMethod()->hide();
+        QTRY_VERIFY(!QGuiApplication::inputMethod()->isVisible());
+        QCOMPARE(form->keyboardInset(), 0.0);
+    }
 
 private:
     // The wall's window, active, with the keyboard panel across its bottom as the demo
@@ -88,72 +149,6 @@ private:
     FakeOfferService m_service;
     QPointingDevice *m_touchScreen = QTest::createTouchDevice();
 };
-
-void tst_QVKeyboard::initTestCase()
-{
-    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
-}
-
-void tst_QVKeyboard::init()
-{
-    QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
-}
-
-void tst_QVKeyboard::typingOnTheKeysKeepsTheFieldAndSendInSight()
-{
-    QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-    SupportHarness harness;
-    QQuickItem *panel = showWithKeyboard(harness);
-    QVERIFY(panel);
-    QVEmailViewController *form = harness.openForm();
-    QVERIFY(form);
-    harness.clickInForm(form, form->chooseSubjectView()->reportBtn());
-    QTRY_VERIFY(form->sendButtonView());
-
-    QQuickItem *name = form->enterInfoView()->nameTextField();
-    harness.clickInForm(form, name);
-    QTRY_VERIFY(QGuiApplication::inputMethod()->isVisible());
-    QTRY_COMPARE(form->keyboardInset(), panel->height());
-    auto keyboardTop = [&] { return harness.window->height() - panel->height(); };
-    QTRY_VERIFY(bottomInWindow(name) <= keyboardTop());
-    QVERIFY(typeOnKeys(harness, panel, name, QStringLiteral("ada")));
-    QCOMPARE(name->property("text").toString().toLower(), QStringLiteral("ada"));
-
-    QQuickItem *email = form->enterInfoView()->emailTextField();
-    harness.clickInForm(form, email);
-    QTRY_VERIFY(email->hasActiveFocus());
-    QTRY_VERIFY(bottomInWindow(email) <= keyboardTop());
-    QVERIFY(typeOnKeys(harness, panel, email, QStringLiteral("ada@example.com")));
-    QCOMPARE(email->property("text").toString(), QStringLiteral("ada@example.com"));
-
-    // Writing the details brings the send button up above the keyboard.
-    harness.clickInForm(form, form->enterCommentView()->commentInputField());
-    QTRY_VERIFY(form->enterCommentView()->commentInputField()->hasActiveFocus());
-    QTRY_VERIFY(bottomInWindow(form->sendButtonView()) <= keyboardTop() + 0.5);
-
-    QGuiApplication::inputMethod()->hide();
-    QTRY_COMPARE(form->keyboardInset(), 0.0);
-}
-
-void tst_QVKeyboard::tabletKeepsItsOwnRules()
-{
-    QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Tablet);
-    const auto phone = qScopeGuard([] { QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone); });
-    SupportHarness harness(QSize(1024, 768));
-    QQuickItem *panel = showWithKeyboard(harness);
-    QVERIFY(panel);
-    QVEmailViewController *form = harness.openForm();
-    QVERIFY(form);
-    QQuickItem *name = form->enterInfoView()->nameTextField();
-    harness.clickInForm(form, name);
-    QTRY_VERIFY(QGuiApplication::inputMethod()->isVisible());
-    QTRY_VERIFY(panel->y() < harness.window->height());
-    // A tablet's form makes no room: its popover floats above the keyboard's rows.
-    QCOMPARE(form->keyboardInset(), 0.0);
-    QGuiApplication::inputMethod()->hide();
-    QTRY_VERIFY(!QGuiApplication::inputMethod()->isVisible());
-    QCOMPARE(form->keyboardInset(), 0.0);
-}
 
 int main(int argc, char **argv)
 {

@@ -113,230 +113,219 @@ class tst_QVLanguage : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
+    void initTestCase()
+    {
+        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
+    }
 
-    void germanOnTheWallThePanelAndTheForm();
-    void textsAndQuestionsInTheLanguageOrEnglish_data();
-    void textsAndQuestionsInTheLanguageOrEnglish();
-    void arabicMirrorsTheHeaderAndTheCells();
-    void pseudoLanguageClipsNothing_data();
-    void pseudoLanguageClipsNothing();
+    void init()
+    {
+        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
+        QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
+        m_service.setTotalOffers(95);
+        m_service.setOffersDropped(false);
+    }
+
+    void cleanup()
+    {
+        finishPendingRequests();
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    }
+
+    void germanOnTheWallThePanelAndTheForm()
+    {
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        SupportHarness harness;
+        QVERIFY(harness.show());
+        QTRY_COMPARE(textOf(harness.find(QStringLiteral("headerTitle"))), QStringLiteral("Gems verdienen"));
+        QCOMPARE(harness.find(QStringLiteral("closeBtn"))->property("accessibleName").toString(),
+                 QStringLiteral("Angebote schließen"));
+
+        harness.wall->onFilterPressed();
+        QTRY_VERIFY(harness.wall->filterVC() && !harness.wall->isOverlayAnimating());
+        QCOMPARE(textOf(harness.find(QStringLiteral("headerTitle"))), QStringLiteral("Sortieren/Filtern"));
+        QCOMPARE(harness.wall->filterVC()->titleForSection(0), QStringLiteral("Sortieren nach"));
+        QCOMPARE(harness.wall->filterVC()->titleForRow(0, 0), QStringLiteral("Beliebtheit"));
+        harness.wall->headerTapped();
+        QTRY_VERIFY(!harness.wall->isFiltersViewOpen() && !harness.wall->isOverlayAnimating());
+
+        QVEmailViewController *form = harness.openForm();
+        QVERIFY(form);
+        QCOMPARE(textOf(form->chooseSubjectView()->notCreditBtn()),
+                 QStringLiteral("Ich habe ein Angebot abgeschlossen, aber keine Gutschrift erhalten"));
+        harness.clickInForm(form, form->chooseSubjectView()->reportBtn());
+        QTRY_VERIFY(form->sendButtonView());
+        harness.clickInForm(form, form->sendButtonView()->sendBtn());
+        QTRY_VERIFY(harness.wall->supportVC()->errorLabel()->isVisible());
+        QCOMPARE(textOf(harness.wall->supportVC()->errorLabel()), QStringLiteral("Bitte gib einen gültigen Namen ein"));
+        QCOMPARE(quorva::detail::libraryLocale().language(), QLocale::German);
+    }
+
+    void textsAndQuestionsInTheLanguageOrEnglish_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("firstQuestion");
+        QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedKingdom) << "Earn Gems"
+                                 << "How do I earn rewards?";
+        QTest::newRow("Italian: no translation, no list of its own") << QLocale(QLocale::Italian, QLocale::Italy)
+                                                                    << "Earn Gems" << "How do I earn rewards?";
+        QTest::newRow("German") << QLocale(QLocale::German, QLocale::Austria) << "Gems verdienen"
+                                << "Wie verdiene ich Belohnungen?";
+        QTest::newRow("Brazilian Portuguese") << QLocale(QLocale::Portuguese, QLocale::Brazil) << "Ganhe Gems"
+                                              << "Como ganho recompensas?";
+    }
+
+    void textsAndQuestionsInTheLanguageOrEnglish()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(QString, title);
+        QFETCH(QString, firstQuestion);
+        QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
+        { WallHarness other; } // a wall in another language first: its language must not linger
+        QLocale::setDefault(locale);
+        SupportHarness harness;
+        QVERIFY(harness.show());
+        QTRY_COMPARE(textOf(harness.find(QStringLiteral("headerTitle"))), title);
+        QVERIFY(!harness.wall->isRightToLeft());
+        QVSupportViewController *support = harness.openSupport();
+        QVERIFY(support);
+        QTRY_VERIFY(support->faqViewController()->model()->rowCount() > 0);
+        QCOMPARE(support->faqViewController()->model()->data(support->faqViewController()->model()->index(0, 0)).toString(),
+                 firstQuestion);
+    }
+
+    void arabicMirrorsTheHeaderAndTheCells()
+    {
+        QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
+        WallHarness harness;
+        QVERIFY(harness.wall->isRightToLeft());
+        QVERIFY(harness.show());
+        QTRY_VERIFY(!harness.cells().isEmpty());
+        auto centreX = [](QQuickItem *item) { return item->mapToScene(QPointF(item->width() / 2, 0)).x(); };
+        const qreal middle = harness.window->width() / 2.0;
+        QVERIFY(centreX(harness.find(QStringLiteral("closeBtn"))) > middle);
+        QVERIFY(centreX(harness.find(QStringLiteral("filterBtn"))) < middle);
+        QVERIFY(centreX(harness.find(QStringLiteral("supportBtn"))) < middle);
+        QVOfferUICollectionViewCell *cell = harness.cells().first();
+        QVERIFY(centreX(cell->creditsBtn()) < centreX(cell->property("nameLabel").value<QQuickItem *>()));
+        QVERIFY(centreX(cell->property("nameLabel").value<QQuickItem *>()) < centreX(cell->thumbImage()));
+        QVERIFY(textOf(harness.find(QStringLiteral("headerTitle"))).startsWith(QStringLiteral("اربح")));
+    }
+
+    // The pseudo-language, then every real one.
+    void pseudoLanguageClipsNothing_data()
+    {
+        QTest::addColumn<bool>("tablet");
+        QTest::addColumn<QString>("language");
+        for (const char *language : {"pseudo", "de_DE", "es_ES", "fr_FR", "pt_BR", "ar_EG"}) {
+            QTest::addRow("%s, phone", language) << false << QString::fromLatin1(language);
+            QTest::addRow("%s, tablet", language) << true << QString::fromLatin1(language);
+        }
+    }
+
+    void pseudoLanguageClipsNothing()
+    {
+        QFETCH(bool, tablet);
+        QFETCH(QString, language);
+        QVDevice::setUserInterfaceIdiom(tablet ? QVDevice::Idiom::Tablet : QVDevice::Idiom::Phone);
+        PseudoTranslator pseudo;
+        if (language == QLatin1String("pseudo"))
+            QCoreApplication::installTranslator(&pseudo);
+        else
+            QLocale::setDefault(QLocale(language));
+        const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&pseudo); });
+        const QSize size = tablet ? QSize(1024, 768) : QSize(390, 780);
+        const auto closeAlert = [](QQuickItem *owner) {
+            const auto alerts = owner->findChildren<QObject *>(QStringLiteral("alert"));
+            QVERIFY(!alerts.isEmpty());
+            QTRY_VERIFY(alerts.last()->property("opened").toBool());
+            QMetaObject::invokeMethod(alerts.last(), "close");
+            QTRY_VERIFY(owner->findChildren<QObject *>(QStringLiteral("alert")).size() < alerts.size());
+        };
+
+        // The wall: failed with its alert, empty, with offers and a credit notice, and the
+        // filter panel.
+        m_service.setHistory(200, R"({"transactions":[]})");
+        QVCreditsWatcher watcher(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
+        watcher.checkNow();
+        m_service.setOffersDropped(true);
+        // Log lines stay English in every language: a translated one would not match.
+        QTest::ignoreMessage(QtInfoMsg, "offers request failed");
+        SupportHarness harness(size);
+        harness.wall->setCreditsWatcher(&watcher);
+        QVERIFY(harness.show());
+        QTRY_VERIFY(harness.wall->loadFailed());
+        QTRY_VERIFY(harness.alert() && harness.alert()->property("opened").toBool());
+        VERIFY_TEXTS_READ_WELL(harness);
+        closeAlert(harness.wall);
+        m_service.setOffersDropped(false);
+        m_service.setTotalOffers(0);
+        harness.wall->onRetryPressed();
+        QTRY_VERIFY(harness.find(QStringLiteral("noOffersLabel"))->isVisible());
+        VERIFY_TEXTS_READ_WELL(harness);
+        m_service.setTotalOffers(95);
+        harness.wall->onRetryPressed();
+        QTRY_VERIFY(harness.wall->offerCount() > 0);
+        QTRY_VERIFY(watcher.hasBaseline());
+        m_service.setHistory(200, R"({"transactions":[{"offer_name":"Sky Quest","currency_adjustment":1500}]})");
+        watcher.checkNow();
+        QTRY_VERIFY(harness.wall->creditNoticeShown());
+        VERIFY_TEXTS_READ_WELL(harness);
+        harness.wall->onFilterPressed();
+        QTRY_VERIFY(harness.wall->filterVC() && !harness.wall->isOverlayAnimating());
+        VERIFY_TEXTS_READ_WELL(harness);
+
+        // Every tab of the support centre, and the form in each of its states.
+        SupportHarness supportHarness(size);
+        QVERIFY(supportHarness.show());
+        QVSupportViewController *support = supportHarness.openSupport();
+        QVERIFY(support);
+        VERIFY_TEXTS_READ_WELL(supportHarness);
+        SupportHarness::showTab(support, QVSupportViewController::HistoryTab);
+        const auto historyRowShown = [support] {
+            const QList<QQuickItem *> items = WallHarness::itemsBelow(support);
+            return std::any_of(items.cbegin(), items.cend(),
+                               [](QQuickItem *i) { return i->objectName() == QLatin1String("offernameLabel"); });
+        };
+        QTRY_VERIFY(historyRowShown());
+        VERIFY_TEXTS_READ_WELL(supportHarness);
+        SupportHarness::showTab(support, QVSupportViewController::FormTab);
+        QVEmailViewController *form = support->emailViewController();
+        VERIFY_TEXTS_READ_WELL(supportHarness);
+        QVChooseSubjectView *subject = form->chooseSubjectView();
+        QVOfferTimeCompletedView *time = form->offerTimeCompleted();
+        for (QQuickItem *choice : {subject->notCreditBtn(), time->noButton(), time->yesButton(), subject->reportBtn()}) {
+            supportHarness.clickInForm(form, choice);
+            VERIFY_TEXTS_READ_WELL(supportHarness);
+        }
+        // Invalid, with the error strip; the date picker; sent, and its failure alert.
+        supportHarness.clickInForm(form, subject->notCreditBtn());
+        supportHarness.clickInForm(form, time->yesButton());
+        supportHarness.clickInForm(form, form->sendButtonView()->sendBtn());
+        QTRY_VERIFY(support->errorLabel()->isVisible());
+        VERIFY_TEXTS_READ_WELL(supportHarness);
+        form->dateInputFieldPressed();
+        QTRY_COMPARE(form->datePickerView()->opacity(), 1.0);
+        VERIFY_TEXTS_READ_WELL(supportHarness);
+        form->onDateDonePressed();
+        QTRY_VERIFY(!form->datePickerView()->isVisible());
+        supportHarness.clickInForm(form, subject->otherBtn());
+        QCOMPARE(form->activeUISate(), 5);
+        form->enterInfoView()->nameTextField()->setProperty("text", QStringLiteral("Ann"));
+        form->enterInfoView()->emailTextField()->setProperty("text", QStringLiteral("ann@example.com"));
+        form->enterCommentView()->commentInputField()->setProperty("text", QStringLiteral("Hello"));
+        supportHarness.clickInForm(form, form->sendButtonView()->sendBtn());
+        QTRY_VERIFY(form->findChild<QObject *>(QStringLiteral("alert")));
+        VERIFY_TEXTS_READ_WELL(supportHarness);
+        closeAlert(form);
+        form->showFailureAlert();
+        VERIFY_TEXTS_READ_WELL(supportHarness);
+    }
 
 private:
     FakeOfferService m_service;
 };
-
-void tst_QVLanguage::initTestCase()
-{
-    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
-}
-
-void tst_QVLanguage::init()
-{
-    QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-    QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
-    m_service.setTotalOffers(95);
-    m_service.setOffersDropped(false);
-}
-
-void tst_QVLanguage::cleanup()
-{
-    finishPendingRequests();
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-}
-
-void tst_QVLanguage::germanOnTheWallThePanelAndTheForm()
-{
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    SupportHarness harness;
-    QVERIFY(harness.show());
-    QTRY_COMPARE(textOf(harness.find(QStringLiteral("headerTitle"))), QStringLiteral("Gems verdienen"));
-    QCOMPARE(harness.find(QStringLiteral("closeBtn"))->property("accessibleName").toString(),
-             QStringLiteral("Angebote schließen"));
-
-    harness.wall->onFilterPressed();
-    QTRY_VERIFY(harness.wall->filterVC() && !harness.wall->isOverlayAnimating());
-    QCOMPARE(textOf(harness.find(QStringLiteral("headerTitle"))), QStringLiteral("Sortieren/Filtern"));
-    QCOMPARE(harness.wall->filterVC()->titleForSection(0), QStringLiteral("Sortieren nach"));
-    QCOMPARE(harness.wall->filterVC()->titleForRow(0, 0), QStringLiteral("Beliebtheit"));
-    harness.wall->headerTapped();
-    QTRY_VERIFY(!harness.wall->isFiltersViewOpen() && !harness.wall->isOverlayAnimating());
-
-    QVEmailViewController *form = harness.openForm();
-    QVERIFY(form);
-    QCOMPARE(textOf(form->chooseSubjectView()->notCreditBtn()),
-             QStringLiteral("Ich habe ein Angebot abgeschlossen, aber keine Gutschrift erhalten"));
-    harness.clickInForm(form, form->chooseSubjectView()->reportBtn());
-    QTRY_VERIFY(form->sendButtonView());
-    harness.clickInForm(form, form->sendButtonView()->sendBtn());
-    QTRY_VERIFY(harness.wall->supportVC()->errorLabel()->isVisible());
-    QCOMPARE(textOf(harness.wall->supportVC()->errorLabel()), QStringLiteral("Bitte gib einen gültigen Namen ein"));
-    QCOMPARE(quorva::detail::libraryLocale().language(), QLocale::German);
-}
-
-void tst_QVLanguage::textsAndQuestionsInTheLanguageOrEnglish_data()
-{
-    QTest::addColumn<QLocale>("locale");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<QString>("firstQuestion");
-    QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedKingdom) << "Earn Gems"
-                             << "How do I earn rewards?";
-    QTest::newRow("Italian: no translation, no list of its own") << QLocale(QLocale::Italian, QLocale::Italy)
-                                                                << "Earn Gems" << "How do I earn rewards?";
-    QTest::newRow("German") << QLocale(QLocale::German, QLocale::Austria) << "Gems verdienen"
-                            << "Wie verdiene ich Belohnungen?";
-    QTest::newRow("Brazilian Portuguese") << QLocale(QLocale::Portuguese, QLocale::Brazil) << "Ganhe Gems"
-                                          << "Como ganho recompensas?";
-}
-
-void tst_QVLanguage::textsAndQuestionsInTheLanguageOrEnglish()
-{
-    QFETCH(QLocale, locale);
-    QFETCH(QString, title);
-    QFETCH(QString, firstQuestion);
-    QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
-    { WallHarness other; } // a wall in another language first: its language must not linger
-    QLocale::setDefault(locale);
-    SupportHarness harness;
-    QVERIFY(harness.show());
-    QTRY_COMPARE(textOf(harness.find(QStringLiteral("headerTitle"))), title);
-    QVERIFY(!harness.wall->isRightToLeft());
-    QVSupportViewController *support = harness.openSupport();
-    QVERIFY(support);
-    QTRY_VERIFY(support->faqViewController()->model()->rowCount() > 0);
-    QCOMPARE(support->faqViewController()->model()->data(support->faqViewController()->model()->index(0, 0)).toString(),
-             firstQuestion);
-}
-
-void tst_QVLanguage::arabicMirrorsTheHeaderAndTheCells()
-{
-    QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
-    WallHarness harness;
-    QVERIFY(harness.wall->isRightToLeft());
-    QVERIFY(harness.show());
-    QTRY_VERIFY(!harness.cells().isEmpty());
-    auto centreX = [](QQuickItem *item) { return item->mapToScene(QPointF(item->width() / 2, 0)).x(); };
-    const qreal middle = harness.window->width() / 2.0;
-    QVERIFY(centreX(harness.find(QStringLiteral("closeBtn"))) > middle);
-    QVERIFY(centreX(harness.find(QStringLiteral("filterBtn"))) < middle);
-    QVERIFY(centreX(harness.find(QStringLiteral("supportBtn"))) < middle);
-    QVOfferUICollectionViewCell *cell = harness.cells().first();
-    QVERIFY(centreX(cell->creditsBtn()) < centreX(cell->property("nameLabel").value<QQuickItem *>()));
-    QVERIFY(centreX(cell->property("nameLabel").value<QQuickItem *>()) < centreX(cell->thumbImage()));
-    QVERIFY(textOf(harness.find(QStringLiteral("headerTitle"))).startsWith(QStringLiteral("اربح")));
-}
-
-// The pseudo-language, then every real one.
-void tst_QVLanguage::pseudoLanguageClipsNothing_data()
-{
-    QTest::addColumn<bool>("tablet");
-    QTest::addColumn<QString>("language");
-    for (const char *language : {"pseudo", "de_DE", "es_ES", "fr_FR", "pt_BR", "ar_EG"}) {
-        QTest::addRow("%s, phone", language) << false << QString::fromLatin1(language);
-        QTest::addRow("%s, tablet", language) << true << QString::fromLatin1(language);
-    }
-}
-
-void tst_QVLanguage::pseudoLanguageClipsNothing()
-{
-    QFETCH(bool, tablet);
-    QFETCH(QString, language);
-    QVDevice::setUserInterfaceIdiom(tablet ? QVDevice::Idiom::Tablet : QVDevice::Idiom::Phone);
-    PseudoTranslator pseudo;
-    if (language == QLatin1String("pseudo"))
-        QCoreApplication::installTranslator(&pseudo);
-    else
-        QLocale::setDefault(QLocale(language));
-    const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&pseudo); });
-    const QSize size = tablet ? QSize(1024, 768) : QSize(390, 780);
-    const auto closeAlert = [](QQuickItem *owner) {
-        const auto alerts = owner->findChildren<QObject *>(QStringLiteral("alert"));
-        QVERIFY(!alerts.isEmpty());
-        QTRY_VERIFY(alerts.last()->property("opened").toBool());
-        QMetaObject::invokeMethod(alerts.last(), "close");
-        QTRY_VERIFY(owner->findChildren<QObject *>(QStringLiteral("alert")).size() < alerts.size());
-    };
-
-    // The wall: failed with its alert, empty, with offers and a credit notice, and the
-    // filter panel.
-    m_service.setHistory(200, R"({"transactions":[]})");
-    QVCreditsWatcher watcher(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
-    watcher.checkNow();
-    m_service.setOffersDropped(true);
-    // Log lines stay English in every language: a translated one would not match.
-    QTest::ignoreMessage(QtInfoMsg, "offers request failed");
-    SupportHarness harness(size);
-    harness.wall->setCreditsWatcher(&watcher);
-    QVERIFY(harness.show());
-    QTRY_VERIFY(harness.wall->loadFailed());
-    QTRY_VERIFY(harness.alert() && harness.alert()->property("opened").toBool());
-    VERIFY_TEXTS_READ_WELL(harness);
-    closeAlert(harness.wall);
-    m_service.setOffersDropped(false);
-    m_service.setTotalOffers(0);
-    harness.wall->onRetryPressed();
-    QTRY_VERIFY(harness.find(QStringLiteral("noOffersLabel"))->isVisible());
-    VERIFY_TEXTS_READ_WELL(harness);
-    m_service.setTotalOffers(95);
-    harness.wall->onRetryPressed();
-    QTRY_VERIFY(harness.wall->offerCount() > 0);
-    QTRY_VERIFY(watcher.hasBaseline());
-    m_service.setHistory(200, R"({"transactions":[{"offer_name":"Sky Quest","currency_adjustment":1500}]})");
-    watcher.checkNow();
-    QTRY_VERIFY(harness.wall->creditNoticeShown());
-    VERIFY_TEXTS_READ_WELL(harness);
-    harness.wall->onFilterPressed();
-    QTRY_VERIFY(harness.wall->filterVC() && !harness.wall->isOverlayAnimating());
-    VERIFY_TEXTS_READ_WELL(harness);
-
-    // Every tab of the support centre, and the form in each of its states.
-    SupportHarness supportHarness(size);
-    QVERIFY(supportHarness.show());
-    QVSupportViewController *support = supportHarness.openSupport();
-    QVERIFY(support);
-    VERIFY_TEXTS_READ_WELL(supportHarness);
-    SupportHarness::showTab(support, QVSupportViewController::HistoryTab);
-    const auto historyRowShown = [support] {
-        const QList<QQuickItem *> items = WallHarness::itemsBelow(support);
-        return std::any_of(items.cbegin(), items.cend(),
-                           [](QQuickItem *i) { return i->objectName() == QLatin1String("offernameLabel"); });
-    };
-    QTRY_VERIFY(historyRowShown());
-    VERIFY_TEXTS_READ_WELL(supportHarness);
-    SupportHarness::showTab(support, QVSupportViewController::FormTab);
-    QVEmailViewController *form = support->emailViewController();
-    VERIFY_TEXTS_READ_WELL(supportHarness);
-    QVChooseSubjectView *subject = form->chooseSubjectView();
-    QVOfferTimeCompletedView *time = form->offerTimeCompleted();
-    for (QQuickItem *choice : {subject->notCreditBtn(), time->noButton(), time->yesButton(), subject->reportBtn()}) {
-        supportHarness.clickInForm(form, choice);
-        VERIFY_TEXTS_READ_WELL(supportHarness);
-    }
-    // Invalid, with the error strip; the date picker; sent, and its failure alert.
-    supportHarness.clickInForm(form, subject->notCreditBtn());
-    supportHarness.clickInForm(form, time->yesButton());
-    supportHarness.clickInForm(form, form->sendButtonView()->sendBtn());
-    QTRY_VERIFY(support->errorLabel()->isVisible());
-    VERIFY_TEXTS_READ_WELL(supportHarness);
-    form->dateInputFieldPressed();
-    QTRY_COMPARE(form->datePickerView()->opacity(), 1.0);
-    VERIFY_TEXTS_READ_WELL(supportHarness);
-    form->onDateDonePressed();
-    QTRY_VERIFY(!form->datePickerView()->isVisible());
-    supportHarness.clickInForm(form, subject->otherBtn());
-    QCOMPARE(form->activeUISate(), 5);
-    form->enterInfoView()->nameTextField()->setProperty("text", QStringLiteral("Ann"));
-    form->enterInfoView()->emailTextField()->setProperty("text", QStringLiteral("ann@example.com"));
-    form->enterCommentView()->commentInputField()->setProperty("text", QStringLiteral("Hello"));
-    supportHarness.clickInForm(form, form->sendButtonView()->sendBtn());
-    QTRY_VERIFY(form->findChild<QObject *>(QStringLiteral("alert")));
-    VERIFY_TEXTS_READ_WELL(supportHarness);
-    closeAlert(form);
-    form->showFailureAlert();
-    VERIFY_TEXTS_READ_WELL(supportHarness);
-}
 
 QTEST_MAIN(tst_QVLanguage)
 #include "tst_QVLanguage.moc"

@@ -21,51 +21,6 @@ using quorva::http::HttpResponse;
 
 using Pairs = QMap<QString, QString>;
 
-class tst_QuorvaRestAPI : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void initTestCase();
-    void init();
-
-    void userAgentHeaderIsSentOnEveryRequest();
-    void dateString_data();
-    void dateString();
-
-    void offersQuery_data();
-    void offersQuery();
-    void offersMoreFlagFollowsStatus_data();
-    void offersMoreFlagFollowsStatus();
-    void addressesAndSchemes();
-
-    void profileNotFoundIsSilent();
-    void historyNoContentLogsAndSucceeds();
-    void ticketBodyAndStatus_data();
-    void ticketBodyAndStatus();
-
-    void everyStatusIsAResponse_data();
-    void everyStatusIsAResponse();
-    void faultyTransfersEndOnce_data();
-    void faultyTransfersEndOnce();
-    void serviceAddressSaysWhatIsWrong_data();
-    void serviceAddressSaysWhatIsWrong();
-    void refusedConnectionFails();
-    void untrustedServerFails();
-    void absentRequiredValueStopsTheProgram_data();
-    void absentRequiredValueStopsTheProgram();
-    void requestsGoOutAsWritten_data();
-    void requestsGoOutAsWritten();
-    void unsendableAddressesFailWithoutSending_data();
-    void unsendableAddressesFailWithoutSending();
-
-private:
-    enum class Kind { Offers, Profile, Categories, History, Ticket };
-    void configure(const QString &base);
-    void start(Kind kind, CallbackProbe &probe);
-    ScriptedServer m_server;
-};
-
 Q_DECLARE_METATYPE(HttpResponse::Fault)
 
 namespace {
@@ -76,588 +31,599 @@ const char *kindName(int kind)
 }
 } // namespace
 
-void tst_QuorvaRestAPI::initTestCase()
+class tst_QuorvaRestAPI : public QObject
 {
-    QCoreApplication::setApplicationName(QStringLiteral("HostApp"));
-    QVDevice::setModel(QStringLiteral("Phone"));
-    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_server.caCertificates());
-}
+    Q_OBJECT
 
-void tst_QuorvaRestAPI::configure(const QString &base)
-{
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    api->setServiceBaseAddress(base);
-    api->setPubId(QStringLiteral("pub1"));
-    api->setCorvelId(QStringLiteral("wall2"));
-    api->setSubId1(QStringLiteral("user3"));
-    api->setGender(QString());
-    api->setAgeRange(QString());
-    api->setSubId2(QString());
-    api->setSubId3(QString());
-    api->setSubId4(QString());
-    api->setAdvertisingInfoProvider(nullptr);
-}
+private slots:
+    void initTestCase()
+    {
+        QCoreApplication::setApplicationName(QStringLiteral("HostApp"));
+        QVDevice::setModel(QStringLiteral("Phone"));
+        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_server.caCertificates());
+    }
 
-void tst_QuorvaRestAPI::init()
-{
-    configure(m_server.baseAddress());
-    QuorvaRestAPI::sharedInstance()->setTransferTimeout(QuorvaRestAPI::kDefaultTransferTimeout);
-    QuorvaRestAPI::sharedInstance()->setMaximumReplySize(QuorvaRestAPI::kDefaultMaximumReplySize);
-    m_server.respond(200, "{}");
-    m_server.clearRequests();
-}
+    void init()
+    {
+        configure(m_server.baseAddress());
+        QuorvaRestAPI::sharedInstance()->setTransferTimeout(QuorvaRestAPI::kDefaultTransferTimeout);
+        QuorvaRestAPI::sharedInstance()->setMaximumReplySize(QuorvaRestAPI::kDefaultMaximumReplySize);
+        m_server.respond(200, "{}");
+        m_server.clearRequests();
+    }
 
-// Starts one request of the given kind; the probe counts its callbacks.
-void tst_QuorvaRestAPI::start(Kind kind, CallbackProbe &probe)
-{
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    auto success = [&probe] { probe.note(); ++probe.successes; };
-    switch (kind) {
-    case Kind::Offers:
-        api->fetchOffers(0, {}, {}, false, [success](const QList<QVOffer> &, bool) { success(); }, probe.failure());
-        break;
-    case Kind::Profile:
-        api->fetchProfile([success](const QVProfile &) { success(); }, probe.failure());
-        break;
-    case Kind::Categories:
-        api->fetchCategories([success](const QList<QVCategory> &) { success(); }, probe.failure());
-        break;
-    case Kind::History:
-        api->fetchHistory([success](const QList<QVTransaction> &) { success(); }, probe.failure());
-        break;
-    case Kind::Ticket:
+    void userAgentHeaderIsSentOnEveryRequest()
+    {
+        QCOMPARE(quorva::detail::formatUserAgent(QString(), QStringLiteral("Phone")), QStringLiteral("(null) Quorva-SDK (iOS/Phone)"));
+        QCOMPARE(QuorvaRestAPI::sharedInstance()->customUserAgent(), QStringLiteral("HostApp Quorva-SDK (iOS/Phone)"));
+        CallbackProbe probe;
+        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+        api->fetchCategories([&](const QList<QVCategory> &) { ++probe.successes; }, probe.failure());
+        api->fetchProfile([&](const QVProfile &) { ++probe.successes; }, probe.failure());
         QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: ")));
+        api->createSupportTicket(QStringLiteral("n"), QStringLiteral("e"), QStringLiteral("1"), {}, {}, {},
+                                 [&](const QVariant &) { ++probe.successes; }, probe.failure());
+        QTRY_COMPARE(probe.successes + probe.failures, 3);
+        for (const HttpRequest &request : m_server.requests())
+            QCOMPARE(request.header("user-agent"), std::string("HostApp Quorva-SDK (iOS/Phone)"));
+    }
+
+    void dateString_data()
+    {
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("afternoon is 12-hour without marker") << "2015-03-04T17:22:05+0000" << "03/04/2015 05:22:05";
+        QTest::newRow("morning") << "2015-03-04T05:22:05+0000" << "03/04/2015 05:22:05";
+        QTest::newRow("midnight hour reads 12") << "2015-03-04T00:05:09+0000" << "03/04/2015 12:05:09";
+        QTest::newRow("noon") << "2015-03-04T12:00:00+0000" << "03/04/2015 12:00:00";
+        QTest::newRow("offset moves to local") << "2015-03-04T01:30:00+0200" << "03/03/2015 11:30:00";
+        QTest::newRow("colon offset") << "2015-03-04T17:22:05-05:00" << "03/04/2015 10:22:05";
+        QTest::newRow("largest offset east") << "2015-03-04T17:22:05+2359" << "03/03/2015 05:23:05";
+        QTest::newRow("offset beyond 14 hours") << "2015-03-04T17:22:05+1500" << "03/04/2015 02:22:05";
+        QTest::newRow("offset west") << "2015-03-04T17:22:05-1500" << "03/05/2015 08:22:05";
+        QTest::newRow("minutes of offset out of range") << "2015-03-04T17:22:05+0160" << QString();
+        QTest::newRow("trailing newline") << "2015-03-04T17:22:05+0000\n" << QString();
+        QTest::newRow("year 1") << "0001-01-01T12:00:00+0000" << "01/01/0001 12:00:00";
+        QTest::newRow("before year 1 once converted") << "0001-01-01T00:30:00+0100" << QString();
+        QTest::newRow("date only") << "2015-03-04" << QString();
+        QTest::newRow("no offset") << "2015-03-04T17:22:05" << QString();
+        QTest::newRow("month 13") << "2015-13-04T17:22:05+0000" << QString();
+        QTest::newRow("empty") << "" << QString();
+        QTest::newRow("null") << QString() << QString();
+    }
+
+    void dateString()
+    {
+        QFETCH(QString, input);
+        QFETCH(QString, expected);
+        const QString actual = QuorvaRestAPI::sharedInstance()->dateStringFromString(input);
+        QCOMPARE(actual, expected);
+        QCOMPARE(actual.isNull(), expected.isNull());
+    }
+
+    void offersQuery_data()
+    {
+        QTest::addColumn<QString>("sort");
+        QTest::addColumn<QString>("category");
+        QTest::addColumn<bool>("featured");
+        QTest::addColumn<QStringList>("targeting"); // gender, ageRange, subId2, subId3, subId4
+        QTest::addColumn<bool>("withProvider");
+        QTest::addColumn<Pairs>("expected");
+
+        const Pairs base{{"subid1", "user3"}, {"limit", "30"}, {"offset", "60"}, {"sort_order", "desc"},
+                         {"device", "00000000-0000-0000-0000-000000000000"}, {"limit_tracking", "0"},
+                         {"sort_by", "popularity"}};
+        const QStringList none{QString(), QString(), QString(), QString(), QString()};
+        QTest::newRow("defaults") << QString() << QString() << false << none << false << base;
+
+        Pairs featured = base;
+        featured.insert("featured_only", "1");
+        featured.insert("sort_by", "payout");
+        QTest::newRow("featured and sort") << "payout" << QString() << true << none << false << featured;
+
+        Pairs category = base;
+        category.insert("category_id", "7");
+        QTest::newRow("category") << QString() << "7" << false << none << false << category;
+
+        Pairs targeted = base;
+        targeted.insert("gender", "f");
+        targeted.insert("age_range_id", "3");
+        targeted.insert("subid2", "s2");
+        targeted.insert("subid3", "s3");
+        targeted.insert("subid4", "");
+        QTest::newRow("targeting, empty subid4 still sent")
+            << QString() << QString() << false << QStringList{"f", "3", "s2", "s3", ""} << false << targeted;
+
+        Pairs tracked = base;
+        tracked.insert("device", "6F9619FF-8B86-D011-B42D-00CF4FC964FF");
+        tracked.insert("limit_tracking", "1");
+        QTest::newRow("provider: tracking allowed is sent as 1")
+            << QString() << QString() << false << none << true << tracked;
+    }
+
+    void offersQuery()
+    {
+        QFETCH(QString, sort);
+        QFETCH(QString, category);
+        QFETCH(bool, featured);
+        QFETCH(QStringList, targeting);
+        QFETCH(bool, withProvider);
+        QFETCH(Pairs, expected);
+
+        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+        api->setGender(targeting[0]);
+        api->setAgeRange(targeting[1]);
+        api->setSubId2(targeting[2]);
+        api->setSubId3(targeting[3]);
+        api->setSubId4(targeting[4]);
+        if (withProvider) {
+            api->setAdvertisingInfoProvider([] {
+                return QVAdvertisingInfo{QStringLiteral("{6f9619ff-8b86-d011-b42d-00cf4fc964ff}"), true};
+            });
+        }
+        CallbackProbe probe;
+        api->fetchOffers(60, sort, category, featured,
+                         [&](const QList<QVOffer> &, bool) { ++probe.successes; }, probe.failure());
+        QTRY_VERIFY(probe.finished());
+        QCOMPARE(probe.successes, 1);
+        const HttpRequest received = m_server.lastRequest();
+        QCOMPARE(rawQueryPairs(received.query), expected);
+        QCOMPARE(received.method, std::string("GET"));
+        QVERIFY(received.tls);
+        QCOMPARE(received.path, std::string("/corvel/api/publisher/pub1/profile/wall2/offers.json"));
+    }
+
+    void offersMoreFlagFollowsStatus_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<bool>("more");
+        const QByteArray one = R"({"offers":[{"offer_id":"1","name":"A"}]})";
+        QTest::newRow("200 with offers") << 200 << one << 1 << true;
+        QTest::newRow("204 empty") << 204 << QByteArray() << 0 << false;
+        QTest::newRow("500 json error") << 500 << QByteArray(R"({"error":"boom"})") << 0 << true;
+        QTest::newRow("404 json error") << 404 << QByteArray(R"({"error":"no"})") << 0 << true;
+        QTest::newRow("200 not json") << 200 << QByteArray("<html>oops</html>") << 0 << true;
+        QTest::newRow("offers is an object") << 200 << QByteArray(R"({"offers":{"offer_id":"1"}})") << 0 << true;
+        QTest::newRow("top level is a list") << 200 << QByteArray(R"([{"offers":[]}])") << 0 << true;
+        QTest::newRow("elements of other types skipped")
+            << 200 << QByteArray(R"({"offers":[1,"x",null,{"name":"B"}]})") << 1 << true;
+    }
+
+    void offersMoreFlagFollowsStatus()
+    {
+        QFETCH(int, status);
+        QFETCH(QByteArray, body);
+        QFETCH(int, count);
+        QFETCH(bool, more);
+        m_server.respond(status, body);
+        CallbackProbe probe;
+        QList<QVOffer> received;
+        bool receivedMore = !more;
+        QuorvaRestAPI::sharedInstance()->fetchOffers(0, {}, {}, false,
+            [&](const QList<QVOffer> &offers, bool hasMore) { ++probe.successes; received = offers; receivedMore = hasMore; },
+            probe.failure());
+        QTRY_VERIFY(probe.finished());
+        QCOMPARE(probe.successes, 1);
+        QCOMPARE(received.size(), count);
+        QCOMPARE(receivedMore, more);
+    }
+
+    void addressesAndSchemes()
+    {
+        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+        CallbackProbe probe;
+        api->fetchProfile([&](const QVProfile &) { ++probe.successes; }, probe.failure());
+        QTRY_VERIFY(probe.finished());
+        HttpRequest r = m_server.lastRequest();
+        QVERIFY2(!r.tls, "profile details go over plain http");
+        QCOMPARE(r.target, std::string("/corvel/api/publisher/pub1/profile/wall2/details.json"));
+
+        api->fetchCategories([&](const QList<QVCategory> &) { ++probe.successes; }, probe.failure());
+        QTRY_COMPARE(probe.successes, 2);
+        r = m_server.lastRequest();
+        QVERIFY(r.tls);
+        QCOMPARE(r.target, std::string("/corvel/categories.json?visibility=1"));
+
+        api->fetchHistory([&](const QList<QVTransaction> &) { ++probe.successes; }, probe.failure());
+        QTRY_COMPARE(probe.successes, 3);
+        r = m_server.lastRequest();
+        QVERIFY(r.tls);
+        QCOMPARE(r.target, std::string("/corvel/api/publisher/pub1/profile/wall2/user/user3/transactions.json"));
+        QCOMPARE(probe.failures, 0);
+    }
+
+    void profileNotFoundIsSilent()
+    {
+        m_server.respond(404, R"({"error":"no such profile"})");
+        QTest::ignoreMessage(QtInfoMsg, "corvelId doesn't exist for the specified pubId");
+        LogCapture log;
+        CallbackProbe probe;
+        QuorvaRestAPI::sharedInstance()->fetchProfile([&](const QVProfile &) { ++probe.successes; }, probe.failure());
+        // The line is written where a callback would have run.
+        QTRY_VERIFY(log.contains(QStringLiteral("corvelId doesn't exist for the specified pubId")));
+        QCOMPARE(probe.successes, 0);
+        QCOMPARE(probe.failures, 0);
+    }
+
+    void historyNoContentLogsAndSucceeds()
+    {
+        m_server.respond(204, {});
+        QTest::ignoreMessage(QtInfoMsg, "No transactions in history");
+        CallbackProbe probe;
+        QList<QVTransaction> received{QVTransaction()};
+        QuorvaRestAPI::sharedInstance()->fetchHistory(
+            [&](const QList<QVTransaction> &list) { ++probe.successes; received = list; }, probe.failure());
+        QTRY_COMPARE(probe.successes, 1);
+        QVERIFY(received.isEmpty());
+
+        m_server.respond(200, R"({"transactions":[{"offer_name":"Dragon","timestamp":"2015-03-04T17:22:05+0000","currency_adjustment":-40},
+                                                  {"offer_name":"Bad","timestamp":"yesterday","currency_adjustment":5}]})");
+        QuorvaRestAPI::sharedInstance()->fetchHistory(
+            [&](const QList<QVTransaction> &list) { ++probe.successes; received = list; }, probe.failure());
+        QTRY_COMPARE(probe.successes, 2);
+        QCOMPARE(received.size(), 2);
+        QCOMPARE(received[0].timestamp(), QStringLiteral("03/04/2015 05:22:05"));
+        QCOMPARE(received[0].currencyAdjustment(), QStringLiteral("-40"));
+        QVERIFY(received[1].timestamp().isNull());
+        QCOMPARE(received[1].currencyAdjustment(), QStringLiteral("5"));
+    }
+
+    void ticketBodyAndStatus_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("reply");
+        QTest::addColumn<bool>("withOptionals");
+        QTest::addColumn<bool>("succeeds");
+        QTest::addColumn<QVariant>("ticketId");
+        QTest::newRow("201 number id") << 201 << QByteArray(R"({"ticket_id":17})") << false << true << QVariant(qlonglong(17));
+        QTest::newRow("201 string id, optionals") << 201 << QByteArray(R"({"ticket_id":"T-9"})") << true << true
+                                                  << QVariant(QStringLiteral("T-9"));
+        QTest::newRow("201 not json") << 201 << QByteArray("created") << false << true << QVariant();
+        QTest::newRow("200 is a failure") << 200 << QByteArray(R"({"ticket_id":17})") << false << false << QVariant();
+        QTest::newRow("422 is a failure") << 422 << QByteArray(R"({"error":"missing"})") << false << false << QVariant();
+    }
+
+    void ticketBodyAndStatus()
+    {
+        QFETCH(int, status);
+        QFETCH(QByteArray, reply);
+        QFETCH(bool, withOptionals);
+        QFETCH(bool, succeeds);
+        QFETCH(QVariant, ticketId);
+        m_server.respond(status, reply);
+        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+        api->setSubId2(QStringLiteral("not-sent"));
+        const QString message = withOptionals ? QStringLiteral("It never credited") : QString();
+        const QString offer = withOptionals ? QStringLiteral("Dragon") : QString();
+        const QString completed = withOptionals ? QStringLiteral("11/02/2026") : QString();
+        QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: \\{.*\"email\":\"ann@example.com\".*\\}$")));
+        CallbackProbe probe;
+        QVariant receivedId(QStringLiteral("untouched"));
         api->createSupportTicket(QStringLiteral("Ann"), QStringLiteral("ann@example.com"), QStringLiteral("1"),
-                                 QStringLiteral("hello"), {}, {}, [success](const QVariant &) { success(); },
-                                 probe.failure());
-        break;
+                                 message, offer, completed,
+                                 [&](const QVariant &id) { ++probe.successes; receivedId = id; }, probe.failure());
+        QTRY_VERIFY(probe.finished());
+        QCOMPARE(probe.successes, succeeds ? 1 : 0);
+        if (succeeds)
+            QCOMPARE(receivedId, ticketId);
+
+        const HttpRequest r = m_server.lastRequest();
+        QCOMPARE(r.method, std::string("POST"));
+        QVERIFY(r.tls);
+        QCOMPARE(r.target, std::string("/corvel/api/publisher/pub1/profile/wall2/user/user3/tickets.json"));
+        QCOMPARE(r.header("content-type"), std::string("application/json"));
+        QVERIFY2(r.body.find("\n    \"") != std::string::npos, "the body is pretty-printed");
+        const QJsonObject body = QJsonDocument::fromJson(QByteArray::fromStdString(r.body)).object();
+        QStringList expectedKeys{"email", "name", "subject_id"};
+        if (withOptionals)
+            expectedKeys << "completed_at" << "message" << "offer_name";
+        expectedKeys.sort();
+        QCOMPARE(body.keys(), expectedKeys);
+        QCOMPARE(body.value("name").toString(), QStringLiteral("Ann"));
+        QCOMPARE(body.value("subject_id").toString(), QStringLiteral("1"));
+        if (withOptionals)
+            QCOMPARE(body.value("completed_at").toString(), completed);
     }
-    probe.requestReturned = true;
-}
 
-void tst_QuorvaRestAPI::userAgentHeaderIsSentOnEveryRequest()
-{
-    QCOMPARE(quorva::detail::formatUserAgent(QString(), QStringLiteral("Phone")), QStringLiteral("(null) Quorva-SDK (iOS/Phone)"));
-    QCOMPARE(QuorvaRestAPI::sharedInstance()->customUserAgent(), QStringLiteral("HostApp Quorva-SDK (iOS/Phone)"));
-    CallbackProbe probe;
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    api->fetchCategories([&](const QList<QVCategory> &) { ++probe.successes; }, probe.failure());
-    api->fetchProfile([&](const QVProfile &) { ++probe.successes; }, probe.failure());
-    QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: ")));
-    api->createSupportTicket(QStringLiteral("n"), QStringLiteral("e"), QStringLiteral("1"), {}, {}, {},
-                             [&](const QVariant &) { ++probe.successes; }, probe.failure());
-    QTRY_COMPARE(probe.successes + probe.failures, 3);
-    for (const HttpRequest &request : m_server.requests())
-        QCOMPARE(request.header("user-agent"), std::string("HostApp Quorva-SDK (iOS/Phone)"));
-}
-
-void tst_QuorvaRestAPI::dateString_data()
-{
-    QTest::addColumn<QString>("input");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("afternoon is 12-hour without marker") << "2015-03-04T17:22:05+0000" << "03/04/2015 05:22:05";
-    QTest::newRow("morning") << "2015-03-04T05:22:05+0000" << "03/04/2015 05:22:05";
-    QTest::newRow("midnight hour reads 12") << "2015-03-04T00:05:09+0000" << "03/04/2015 12:05:09";
-    QTest::newRow("noon") << "2015-03-04T12:00:00+0000" << "03/04/2015 12:00:00";
-    QTest::newRow("offset moves to local") << "2015-03-04T01:30:00+0200" << "03/03/2015 11:30:00";
-    QTest::newRow("colon offset") << "2015-03-04T17:22:05-05:00" << "03/04/2015 10:22:05";
-    QTest::newRow("largest offset east") << "2015-03-04T17:22:05+2359" << "03/03/2015 05:23:05";
-    QTest::newRow("offset beyond 14 hours") << "2015-03-04T17:22:05+1500" << "03/04/2015 02:22:05";
-    QTest::newRow("offset west") << "2015-03-04T17:22:05-1500" << "03/05/2015 08:22:05";
-    QTest::newRow("minutes of offset out of range") << "2015-03-04T17:22:05+0160" << QString();
-    QTest::newRow("trailing newline") << "2015-03-04T17:22:05+0000\n" << QString();
-    QTest::newRow("year 1") << "0001-01-01T12:00:00+0000" << "01/01/0001 12:00:00";
-    QTest::newRow("before year 1 once converted") << "0001-01-01T00:30:00+0100" << QString();
-    QTest::newRow("date only") << "2015-03-04" << QString();
-    QTest::newRow("no offset") << "2015-03-04T17:22:05" << QString();
-    QTest::newRow("month 13") << "2015-13-04T17:22:05+0000" << QString();
-    QTest::newRow("empty") << "" << QString();
-    QTest::newRow("null") << QString() << QString();
-}
-
-void tst_QuorvaRestAPI::dateString()
-{
-    QFETCH(QString, input);
-    QFETCH(QString, expected);
-    const QString actual = QuorvaRestAPI::sharedInstance()->dateStringFromString(input);
-    QCOMPARE(actual, expected);
-    QCOMPARE(actual.isNull(), expected.isNull());
-}
-
-void tst_QuorvaRestAPI::offersQuery_data()
-{
-    QTest::addColumn<QString>("sort");
-    QTest::addColumn<QString>("category");
-    QTest::addColumn<bool>("featured");
-    QTest::addColumn<QStringList>("targeting"); // gender, ageRange, subId2, subId3, subId4
-    QTest::addColumn<bool>("withProvider");
-    QTest::addColumn<Pairs>("expected");
-
-    const Pairs base{{"subid1", "user3"}, {"limit", "30"}, {"offset", "60"}, {"sort_order", "desc"},
-                     {"device", "00000000-0000-0000-0000-000000000000"}, {"limit_tracking", "0"},
-                     {"sort_by", "popularity"}};
-    const QStringList none{QString(), QString(), QString(), QString(), QString()};
-    QTest::newRow("defaults") << QString() << QString() << false << none << false << base;
-
-    Pairs featured = base;
-    featured.insert("featured_only", "1");
-    featured.insert("sort_by", "payout");
-    QTest::newRow("featured and sort") << "payout" << QString() << true << none << false << featured;
-
-    Pairs category = base;
-    category.insert("category_id", "7");
-    QTest::newRow("category") << QString() << "7" << false << none << false << category;
-
-    Pairs targeted = base;
-    targeted.insert("gender", "f");
-    targeted.insert("age_range_id", "3");
-    targeted.insert("subid2", "s2");
-    targeted.insert("subid3", "s3");
-    targeted.insert("subid4", "");
-    QTest::newRow("targeting, empty subid4 still sent")
-        << QString() << QString() << false << QStringList{"f", "3", "s2", "s3", ""} << false << targeted;
-
-    Pairs tracked = base;
-    tracked.insert("device", "6F9619FF-8B86-D011-B42D-00CF4FC964FF");
-    tracked.insert("limit_tracking", "1");
-    QTest::newRow("provider: tracking allowed is sent as 1")
-        << QString() << QString() << false << none << true << tracked;
-}
-
-void tst_QuorvaRestAPI::offersQuery()
-{
-    QFETCH(QString, sort);
-    QFETCH(QString, category);
-    QFETCH(bool, featured);
-    QFETCH(QStringList, targeting);
-    QFETCH(bool, withProvider);
-    QFETCH(Pairs, expected);
-
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    api->setGender(targeting[0]);
-    api->setAgeRange(targeting[1]);
-    api->setSubId2(targeting[2]);
-    api->setSubId3(targeting[3]);
-    api->setSubId4(targeting[4]);
-    if (withProvider) {
-        api->setAdvertisingInfoProvider([] {
-            return QVAdvertisingInfo{QStringLiteral("{6f9619ff-8b86-d011-b42d-00cf4fc964ff}"), true};
-        });
-    }
-    CallbackProbe probe;
-    api->fetchOffers(60, sort, category, featured,
-                     [&](const QList<QVOffer> &, bool) { ++probe.successes; }, probe.failure());
-    QTRY_VERIFY(probe.finished());
-    QCOMPARE(probe.successes, 1);
-    const HttpRequest received = m_server.lastRequest();
-    QCOMPARE(rawQueryPairs(received.query), expected);
-    QCOMPARE(received.method, std::string("GET"));
-    QVERIFY(received.tls);
-    QCOMPARE(received.path, std::string("/corvel/api/publisher/pub1/profile/wall2/offers.json"));
-}
-
-void tst_QuorvaRestAPI::offersMoreFlagFollowsStatus_data()
-{
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<bool>("more");
-    const QByteArray one = R"({"offers":[{"offer_id":"1","name":"A"}]})";
-    QTest::newRow("200 with offers") << 200 << one << 1 << true;
-    QTest::newRow("204 empty") << 204 << QByteArray() << 0 << false;
-    QTest::newRow("500 json error") << 500 << QByteArray(R"({"error":"boom"})") << 0 << true;
-    QTest::newRow("404 json error") << 404 << QByteArray(R"({"error":"no"})") << 0 << true;
-    QTest::newRow("200 not json") << 200 << QByteArray("<html>oops</html>") << 0 << true;
-    QTest::newRow("offers is an object") << 200 << QByteArray(R"({"offers":{"offer_id":"1"}})") << 0 << true;
-    QTest::newRow("top level is a list") << 200 << QByteArray(R"([{"offers":[]}])") << 0 << true;
-    QTest::newRow("elements of other types skipped")
-        << 200 << QByteArray(R"({"offers":[1,"x",null,{"name":"B"}]})") << 1 << true;
-}
-
-void tst_QuorvaRestAPI::offersMoreFlagFollowsStatus()
-{
-    QFETCH(int, status);
-    QFETCH(QByteArray, body);
-    QFETCH(int, count);
-    QFETCH(bool, more);
-    m_server.respond(status, body);
-    CallbackProbe probe;
-    QList<QVOffer> received;
-    bool receivedMore = !more;
-    QuorvaRestAPI::sharedInstance()->fetchOffers(0, {}, {}, false,
-        [&](const QList<QVOffer> &offers, bool hasMore) { ++probe.successes; received = offers; receivedMore = hasMore; },
-        probe.failure());
-    QTRY_VERIFY(probe.finished());
-    QCOMPARE(probe.successes, 1);
-    QCOMPARE(received.size(), count);
-    QCOMPARE(receivedMore, more);
-}
-
-void tst_QuorvaRestAPI::addressesAndSchemes()
-{
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    CallbackProbe probe;
-    api->fetchProfile([&](const QVProfile &) { ++probe.successes; }, probe.failure());
-    QTRY_VERIFY(probe.finished());
-    HttpRequest r = m_server.lastRequest();
-    QVERIFY2(!r.tls, "profile details go over plain http");
-    QCOMPARE(r.target, std::string("/corvel/api/publisher/pub1/profile/wall2/details.json"));
-
-    api->fetchCategories([&](const QList<QVCategory> &) { ++probe.successes; }, probe.failure());
-    QTRY_COMPARE(probe.successes, 2);
-    r = m_server.lastRequest();
-    QVERIFY(r.tls);
-    QCOMPARE(r.target, std::string("/corvel/categories.json?visibility=1"));
-
-    api->fetchHistory([&](const QList<QVTransaction> &) { ++probe.successes; }, probe.failure());
-    QTRY_COMPARE(probe.successes, 3);
-    r = m_server.lastRequest();
-    QVERIFY(r.tls);
-    QCOMPARE(r.target, std::string("/corvel/api/publisher/pub1/profile/wall2/user/user3/transactions.json"));
-    QCOMPARE(probe.failures, 0);
-}
-
-void tst_QuorvaRestAPI::profileNotFoundIsSilent()
-{
-    m_server.respond(404, R"({"error":"no such profile"})");
-    QTest::ignoreMessage(QtInfoMsg, "corvelId doesn't exist for the specified pubId");
-    LogCapture log;
-    CallbackProbe probe;
-    QuorvaRestAPI::sharedInstance()->fetchProfile([&](const QVProfile &) { ++probe.successes; }, probe.failure());
-    // The line is written where a callback would have run.
-    QTRY_VERIFY(log.contains(QStringLiteral("corvelId doesn't exist for the specified pubId")));
-    QCOMPARE(probe.successes, 0);
-    QCOMPARE(probe.failures, 0);
-}
-
-void tst_QuorvaRestAPI::historyNoContentLogsAndSucceeds()
-{
-    m_server.respond(204, {});
-    QTest::ignoreMessage(QtInfoMsg, "No transactions in history");
-    CallbackProbe probe;
-    QList<QVTransaction> received{QVTransaction()};
-    QuorvaRestAPI::sharedInstance()->fetchHistory(
-        [&](const QList<QVTransaction> &list) { ++probe.successes; received = list; }, probe.failure());
-    QTRY_COMPARE(probe.successes, 1);
-    QVERIFY(received.isEmpty());
-
-    m_server.respond(200, R"({"transactions":[{"offer_name":"Dragon","timestamp":"2015-03-04T17:22:05+0000","currency_adjustment":-40},
-                                              {"offer_name":"Bad","timestamp":"yesterday","currency_adjustment":5}]})");
-    QuorvaRestAPI::sharedInstance()->fetchHistory(
-        [&](const QList<QVTransaction> &list) { ++probe.successes; received = list; }, probe.failure());
-    QTRY_COMPARE(probe.successes, 2);
-    QCOMPARE(received.size(), 2);
-    QCOMPARE(received[0].timestamp(), QStringLiteral("03/04/2015 05:22:05"));
-    QCOMPARE(received[0].currencyAdjustment(), QStringLiteral("-40"));
-    QVERIFY(received[1].timestamp().isNull());
-    QCOMPARE(received[1].currencyAdjustment(), QStringLiteral("5"));
-}
-
-void tst_QuorvaRestAPI::ticketBodyAndStatus_data()
-{
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QByteArray>("reply");
-    QTest::addColumn<bool>("withOptionals");
-    QTest::addColumn<bool>("succeeds");
-    QTest::addColumn<QVariant>("ticketId");
-    QTest::newRow("201 number id") << 201 << QByteArray(R"({"ticket_id":17})") << false << true << QVariant(qlonglong(17));
-    QTest::newRow("201 string id, optionals") << 201 << QByteArray(R"({"ticket_id":"T-9"})") << true << true
-                                              << QVariant(QStringLiteral("T-9"));
-    QTest::newRow("201 not json") << 201 << QByteArray("created") << false << true << QVariant();
-    QTest::newRow("200 is a failure") << 200 << QByteArray(R"({"ticket_id":17})") << false << false << QVariant();
-    QTest::newRow("422 is a failure") << 422 << QByteArray(R"({"error":"missing"})") << false << false << QVariant();
-}
-
-void tst_QuorvaRestAPI::ticketBodyAndStatus()
-{
-    QFETCH(int, status);
-    QFETCH(QByteArray, reply);
-    QFETCH(bool, withOptionals);
-    QFETCH(bool, succeeds);
-    QFETCH(QVariant, ticketId);
-    m_server.respond(status, reply);
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    api->setSubId2(QStringLiteral("not-sent"));
-    const QString message = withOptionals ? QStringLiteral("It never credited") : QString();
-    const QString offer = withOptionals ? QStringLiteral("Dragon") : QString();
-    const QString completed = withOptionals ? QStringLiteral("11/02/2026") : QString();
-    QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: \\{.*\"email\":\"ann@example.com\".*\\}$")));
-    CallbackProbe probe;
-    QVariant receivedId(QStringLiteral("untouched"));
-    api->createSupportTicket(QStringLiteral("Ann"), QStringLiteral("ann@example.com"), QStringLiteral("1"),
-                             message, offer, completed,
-                             [&](const QVariant &id) { ++probe.successes; receivedId = id; }, probe.failure());
-    QTRY_VERIFY(probe.finished());
-    QCOMPARE(probe.successes, succeeds ? 1 : 0);
-    if (succeeds)
-        QCOMPARE(receivedId, ticketId);
-
-    const HttpRequest r = m_server.lastRequest();
-    QCOMPARE(r.method, std::string("POST"));
-    QVERIFY(r.tls);
-    QCOMPARE(r.target, std::string("/corvel/api/publisher/pub1/profile/wall2/user/user3/tickets.json"));
-    QCOMPARE(r.header("content-type"), std::string("application/json"));
-    QVERIFY2(r.body.find("\n    \"") != std::string::npos, "the body is pretty-printed");
-    const QJsonObject body = QJsonDocument::fromJson(QByteArray::fromStdString(r.body)).object();
-    QStringList expectedKeys{"email", "name", "subject_id"};
-    if (withOptionals)
-        expectedKeys << "completed_at" << "message" << "offer_name";
-    expectedKeys.sort();
-    QCOMPARE(body.keys(), expectedKeys);
-    QCOMPARE(body.value("name").toString(), QStringLiteral("Ann"));
-    QCOMPARE(body.value("subject_id").toString(), QStringLiteral("1"));
-    if (withOptionals)
-        QCOMPARE(body.value("completed_at").toString(), completed);
-}
-
-void tst_QuorvaRestAPI::everyStatusIsAResponse_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<int>("status");
-    QTest::addColumn<QByteArray>("location");
-    const QList<int> statuses{400, 407, 418, 302, 301, 500};
-    for (int kind = int(Kind::Offers); kind <= int(Kind::Ticket); ++kind) {
-        for (int status : statuses) {
-            const QByteArray location = status == 301 ? "https://elsewhere.example/" : "";
-            QTest::addRow("%s %d%s", kindName(kind), status, location.isEmpty() ? "" : " with Location")
-                << kind << status << location;
+    void everyStatusIsAResponse_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("location");
+        const QList<int> statuses{400, 407, 418, 302, 301, 500};
+        for (int kind = int(Kind::Offers); kind <= int(Kind::Ticket); ++kind) {
+            for (int status : statuses) {
+                const QByteArray location = status == 301 ? "https://elsewhere.example/" : "";
+                QTest::addRow("%s %d%s", kindName(kind), status, location.isEmpty() ? "" : " with Location")
+                    << kind << status << location;
+            }
         }
     }
-}
 
-void tst_QuorvaRestAPI::everyStatusIsAResponse()
-{
-    QFETCH(int, kind);
-    QFETCH(int, status);
-    QFETCH(QByteArray, location);
-    m_server.respond([status, location](const HttpRequest &) {
-        HttpResponse response = HttpResponse::json(status, R"({"error":"no"})");
-        if (!location.isEmpty())
-            response.headers["location"] = location.toStdString();
-        return response;
-    });
-    CallbackProbe probe;
-    start(Kind(kind), probe);
-    QTRY_VERIFY(probe.finished());
-    // The ticket succeeds only on 201; every other request takes any status as an answer.
-    const bool ticket = Kind(kind) == Kind::Ticket;
-    QCOMPARE(probe.successes, ticket ? 0 : 1);
-    QCOMPARE(probe.failures, ticket ? 1 : 0);
-    QCOMPARE(m_server.requestCount(), 1); // redirects are not followed
-}
-
-void tst_QuorvaRestAPI::faultyTransfersEndOnce_data()
-{
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<HttpResponse::Fault>("fault");
-    QTest::addColumn<int>("bodyBytes");
-    QTest::addColumn<QString>("warning"); // null: the reply is taken
-    using Fault = HttpResponse::Fault;
-    for (int kind = int(Kind::Offers); kind <= int(Kind::Ticket); ++kind) {
-        QTest::addRow("%s, dropped before the answer", kindName(kind)) << kind << Fault::DropConnection << 0 << QString("");
-        QTest::addRow("%s, body cut short", kindName(kind)) << kind << Fault::TruncateBody << 0 << QString("");
+    void everyStatusIsAResponse()
+    {
+        QFETCH(int, kind);
+        QFETCH(int, status);
+        QFETCH(QByteArray, location);
+        m_server.respond([status, location](const HttpRequest &) {
+            HttpResponse response = HttpResponse::json(status, R"({"error":"no"})");
+            if (!location.isEmpty())
+                response.headers["location"] = location.toStdString();
+            return response;
+        });
+        CallbackProbe probe;
+        start(Kind(kind), probe);
+        QTRY_VERIFY(probe.finished());
+        // The ticket succeeds only on 201; every other request takes any status as an answer.
+        const bool ticket = Kind(kind) == Kind::Ticket;
+        QCOMPARE(probe.successes, ticket ? 0 : 1);
+        QCOMPARE(probe.failures, ticket ? 1 : 0);
+        QCOMPARE(m_server.requestCount(), 1); // redirects are not followed
     }
-    const auto timedOut = [](Kind kind) { return QStringLiteral("%1 request timed out after 400 ms").arg(kindName(int(kind))); };
-    QTest::newRow("offers, never answered") << int(Kind::Offers) << Fault::Stall << 0 << timedOut(Kind::Offers);
-    QTest::newRow("offers, stalled mid-body") << int(Kind::Offers) << Fault::StallMidBody << 0 << timedOut(Kind::Offers);
-    QTest::newRow("profile, never answered") << int(Kind::Profile) << Fault::Stall << 0 << timedOut(Kind::Profile);
-    QTest::newRow("ticket, never answered") << int(Kind::Ticket) << Fault::Stall << 0 << timedOut(Kind::Ticket);
-    const QString overCap = QStringLiteral("offers request stopped: the reply exceeds 1048576 bytes");
-    QTest::newRow("endless chunked body") << int(Kind::Offers) << Fault::EndlessBody << 0 << overCap;
-    QTest::newRow("endless head") << int(Kind::Offers) << Fault::EndlessHeaders << 0
-                                  << QStringLiteral("offers request stopped: the reply exceeds 262144 bytes");
-    QTest::newRow("announced body over the cap") << int(Kind::Offers) << Fault::None << 3 * 1024 * 1024 << overCap;
-    QTest::newRow("body under the cap") << int(Kind::Offers) << Fault::None << 900 * 1024 << QString();
-}
 
-// Each call sends one request and ends once, later and on the GUI thread, however the
-// transfer breaks: a connection that drops or stalls, a body cut short, a reply with no end.
-void tst_QuorvaRestAPI::faultyTransfersEndOnce()
-{
-    QFETCH(int, kind);
-    QFETCH(HttpResponse::Fault, fault);
-    QFETCH(int, bodyBytes);
-    QFETCH(QString, warning);
-    // A request that succeeded before must not leave a connection to be reused.
-    CallbackProbe warmUp;
-    start(Kind::Categories, warmUp);
-    QTRY_VERIFY(warmUp.finished());
-    const std::string padding(std::size_t(qMax(0, bodyBytes - 80)), ' ');
-    m_server.respond([fault, padding](const HttpRequest &) {
-        HttpResponse response = HttpResponse::json(201, R"({"offers":[{"name":"A"},{"name":"B"}],"ticket_id":1})" + padding);
-        response.fault = fault;
-        return response;
-    });
-    m_server.clearRequests();
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    api->setMaximumReplySize(1024 * 1024);
-    // Only the time-out ends a stall; only the cap ends the rest.
-    api->setTransferTimeout(warning.contains(QLatin1String("timed out")) ? std::chrono::milliseconds(400)
-                                                                      : std::chrono::minutes(5));
-    if (!warning.isEmpty())
-        QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+    void faultyTransfersEndOnce_data()
+    {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<HttpResponse::Fault>("fault");
+        QTest::addColumn<int>("bodyBytes");
+        QTest::addColumn<QString>("warning"); // null: the reply is taken
+        using Fault = HttpResponse::Fault;
+        for (int kind = int(Kind::Offers); kind <= int(Kind::Ticket); ++kind) {
+            QTest::addRow("%s, dropped before the answer", kindName(kind)) << kind << Fault::DropConnection << 0 << QString("");
+            QTest::addRow("%s, body cut short", kindName(kind)) << kind << Fault::TruncateBody << 0 << QString("");
+        }
+        const auto timedOut = [](Kind kind) { return QStringLiteral("%1 request timed out after 400 ms").arg(kindName(int(kind))); };
+        QTest::newRow("offers, never answered") << int(Kind::Offers) << Fault::Stall << 0 << timedOut(Kind::Offers);
+        QTest::newRow("offers, stalled mid-body") << int(Kind::Offers) << Fault::StallMidBody << 0 << timedOut(Kind::Offers);
+        QTest::newRow("profile, never answered") << int(Kind::Profile) << Fault::Stall << 0 << timedOut(Kind::Profile);
+        QTest::newRow("ticket, never answered") << int(Kind::Ticket) << Fault::Stall << 0 << timedOut(Kind::Ticket);
+        const QString overCap = QStringLiteral("offers request stopped: the reply exceeds 1048576 bytes");
+        QTest::newRow("endless chunked body") << int(Kind::Offers) << Fault::EndlessBody << 0 << overCap;
+        QTest::newRow("endless head") << int(Kind::Offers) << Fault::EndlessHeaders << 0
+                                      << QStringLiteral("offers request stopped: the reply exceeds 262144 bytes");
+        QTest::newRow("announced body over the cap") << int(Kind::Offers) << Fault::None << 3 * 1024 * 1024 << overCap;
+        QTest::newRow("body under the cap") << int(Kind::Offers) << Fault::None << 900 * 1024 << QString();
+    }
 
-    CallbackProbe probe;
-    start(Kind(kind), probe);
-    QTRY_VERIFY(probe.finished());
-    QCOMPARE(probe.successes, warning.isNull() ? 1 : 0);
-    QCOMPARE(probe.failures, warning.isNull() ? 0 : 1);
-    QCOMPARE(m_server.requestCount(), 1);
-    QVERIFY(!probe.ranBeforeReturn); // callbacks run later, on the GUI thread
-    QVERIFY(!probe.ranOffGuiThread);
-}
+    // Each call sends one request and ends once, later and on the GUI thread, however the
+    // transfer breaks: a connection that drops or stalls, a body cut short, a reply with no end.
+    void faultyTransfersEndOnce()
+    {
+        QFETCH(int, kind);
+        QFETCH(HttpResponse::Fault, fault);
+        QFETCH(int, bodyBytes);
+        QFETCH(QString, warning);
+        // A request that succeeded before must not leave a connection to be reused.
+        CallbackProbe warmUp;
+        start(Kind::Categories, warmUp);
+        QTRY_VERIFY(warmUp.finished());
+        const std::string padding(std::size_t(qMax(0, bodyBytes - 80)), ' ');
+        m_server.respond([fault, padding](const HttpRequest &) {
+            HttpResponse response = HttpResponse::json(201, R"({"offers":[{"name":"A"},{"name":"B"}],"ticket_id":1})" + padding);
+            response.fault = fault;
+            return response;
+        });
+        m_server.clearRequests();
+        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+        api->setMaximumReplySize(1024 * 1024);
+        // Only the time-out ends a stall; only the cap ends the rest.
+        api->setTransferTimeout(warning.contains(QLatin1String("timed out")) ? std::chrono::milliseconds(400)
+                                                                          : std::chrono::minutes(5));
+        if (!warning.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
 
-void tst_QuorvaRestAPI::serviceAddressSaysWhatIsWrong_data()
-{
-    QTest::addColumn<QString>("written");
-    QTest::addColumn<QString>("used");
-    QTest::addColumn<QString>("warning"); // empty: none
-    QTest::newRow("host and port") << "api.example.com:8443" << "api.example.com:8443" << "";
-    QTest::newRow("a scheme in front") << "https://api.example.com" << "api.example.com"
-        << "service address https://api.example.com takes no scheme: using api.example.com";
-    QTest::newRow("a path") << "api.example.com/v2" << "api.example.com/v2"
-        << "service address api.example.com/v2 is not \"host\" or \"host:port\": requests to it fail";
-}
+        CallbackProbe probe;
+        start(Kind(kind), probe);
+        QTRY_VERIFY(probe.finished());
+        QCOMPARE(probe.successes, warning.isNull() ? 1 : 0);
+        QCOMPARE(probe.failures, warning.isNull() ? 0 : 1);
+        QCOMPARE(m_server.requestCount(), 1);
+        QVERIFY(!probe.ranBeforeReturn); // callbacks run later, on the GUI thread
+        QVERIFY(!probe.ranOffGuiThread);
+    }
 
-void tst_QuorvaRestAPI::serviceAddressSaysWhatIsWrong()
-{
-    QFETCH(QString, written);
-    QFETCH(QString, used);
-    QFETCH(QString, warning);
-    if (!warning.isEmpty())
-        QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
-    QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(written);
-    QCOMPARE(QuorvaRestAPI::sharedInstance()->serviceBaseAddress(), used);
-}
+    void serviceAddressSaysWhatIsWrong_data()
+    {
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<QString>("used");
+        QTest::addColumn<QString>("warning"); // empty: none
+        QTest::newRow("host and port") << "api.example.com:8443" << "api.example.com:8443" << "";
+        QTest::newRow("a scheme in front") << "https://api.example.com" << "api.example.com"
+            << "service address https://api.example.com takes no scheme: using api.example.com";
+        QTest::newRow("a path") << "api.example.com/v2" << "api.example.com/v2"
+            << "service address api.example.com/v2 is not \"host\" or \"host:port\": requests to it fail";
+    }
 
-void tst_QuorvaRestAPI::refusedConnectionFails()
-{
-    QTcpServer closed;
-    QVERIFY(closed.listen(QHostAddress::LocalHost));
-    const quint16 port = closed.serverPort();
-    closed.close();
-    configure(QStringLiteral("127.0.0.1:%1").arg(port));
-    CallbackProbe probe;
-    QTest::ignoreMessage(QtWarningMsg, "categories request failed: the service refused the connection: nothing "
-                                       "listens at that host and port");
-    start(Kind::Categories, probe);
-    QTRY_VERIFY(probe.finished());
-    QCOMPARE(probe.failures, 1);
-    QVERIFY(!probe.ranBeforeReturn);
-}
+    void serviceAddressSaysWhatIsWrong()
+    {
+        QFETCH(QString, written);
+        QFETCH(QString, used);
+        QFETCH(QString, warning);
+        if (!warning.isEmpty())
+            QTest::ignoreMessage(QtWarningMsg, qPrintable(warning));
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+        QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(written);
+        QCOMPARE(QuorvaRestAPI::sharedInstance()->serviceBaseAddress(), used);
+    }
 
-void tst_QuorvaRestAPI::untrustedServerFails()
-{
-    // A server whose authority the host never added: the TLS check refuses it.
-    ScriptedServer stranger;
-    stranger.respond(200, R"({"offers":[{"name":"A"}]})");
-    configure(stranger.baseAddress());
-    CallbackProbe probe;
-    // The developer is told the cause, not only the user "No Connection".
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral(
-                                           "^offers request failed: the service's certificate is not trusted "
-                                           "\\(SSL certificate problem: .+\\): add its certificate authority "
-                                           "\\(QuorvaRestAPI::addCaCertificates, or caCertificatesFile in QML\\)$")));
-    start(Kind::Offers, probe);
-    QTRY_VERIFY(probe.finished());
-    QCOMPARE(probe.failures, 1);
-    QCOMPARE(stranger.requestCount(), 0);
-    // The same request over plain http reaches it: only trust failed.
-    start(Kind::Profile, probe);
-    QTRY_COMPARE(probe.successes, 1);
-}
+    void refusedConnectionFails()
+    {
+        QTcpServer closed;
+        QVERIFY(closed.listen(QHostAddress::LocalHost));
+        const quint16 port = closed.serverPort();
+        closed.close();
+        configure(QStringLiteral("127.0.0.1:%1").arg(port));
+        CallbackProbe probe;
+        QTest::ignoreMessage(QtWarningMsg, "categories request failed: the service refused the connection: nothing "
+                                           "listens at that host and port");
+        start(Kind::Categories, probe);
+        QTRY_VERIFY(probe.finished());
+        QCOMPARE(probe.failures, 1);
+        QVERIFY(!probe.ranBeforeReturn);
+    }
 
-void tst_QuorvaRestAPI::absentRequiredValueStopsTheProgram_data()
-{
-    QTest::addColumn<QString>("missing");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("offers without subId1") << "subId1" << "QuorvaRestAPI::fetchOffers: subId1 must be set";
-    QTest::newRow("ticket without name") << "name" << "QuorvaRestAPI::createSupportTicket: name must be set";
-    QTest::newRow("ticket without e-mail") << "emailId" << "QuorvaRestAPI::createSupportTicket: emailId must be set";
-    QTest::newRow("ticket without subject") << "subject" << "QuorvaRestAPI::createSupportTicket: subject must be set";
-}
+    void untrustedServerFails()
+    {
+        // A server whose authority the host never added: the TLS check refuses it.
+        ScriptedServer stranger;
+        stranger.respond(200, R"({"offers":[{"name":"A"}]})");
+        configure(stranger.baseAddress());
+        CallbackProbe probe;
+        // The developer is told the cause, not only the user "No Connection".
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral(
+                                               "^offers request failed: the service's certificate is not trusted "
+                                               "\\(SSL certificate problem: .+\\): add its certificate authority "
+                                               "\\(QuorvaRestAPI::addCaCertificates, or caCertificatesFile in QML\\)$")));
+        start(Kind::Offers, probe);
+        QTRY_VERIFY(probe.finished());
+        QCOMPARE(probe.failures, 1);
+        QCOMPARE(stranger.requestCount(), 0);
+        // The same request over plain http reaches it: only trust failed.
+        start(Kind::Profile, probe);
+        QTRY_COMPARE(probe.successes, 1);
+    }
 
-void tst_QuorvaRestAPI::absentRequiredValueStopsTheProgram()
-{
-    QFETCH(QString, missing);
-    QFETCH(QString, message);
-    QProcess probe;
-    probe.setProcessEnvironment([] {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("quorva.info=false"));
-        return environment;
-    }());
-    probe.start(QStringLiteral(QUORVA_REQUIRED_VALUE_PROBE), {missing});
-    QVERIFY(probe.waitForFinished(30000));
-    const QString errors = QString::fromLocal8Bit(probe.readAllStandardError());
-    QCOMPARE(probe.exitStatus(), QProcess::CrashExit);
-    QVERIFY2(errors.contains(message), qPrintable(errors));
-    QVERIFY(!probe.readAllStandardOutput().contains("request accepted"));
-}
+    void absentRequiredValueStopsTheProgram_data()
+    {
+        QTest::addColumn<QString>("missing");
+        QTest::addColumn<QString>("message");
+        QTest::newRow("offers without subId1") << "subId1" << "QuorvaRestAPI::fetchOffers: subId1 must be set";
+        QTest::newRow("ticket without name") << "name" << "QuorvaRestAPI::createSupportTicket: name must be set";
+        QTest::newRow("ticket without e-mail") << "emailId" << "QuorvaRestAPI::createSupportTicket: emailId must be set";
+        QTest::newRow("ticket without subject") << "subject" << "QuorvaRestAPI::createSupportTicket: subject must be set";
+    }
 
-void tst_QuorvaRestAPI::requestsGoOutAsWritten_data()
-{
-    QTest::addColumn<QString>("value");
-    QTest::newRow("percent escape kept") << "%41";
-    QTest::newRow("escaped text kept") << "caf%C3%A9";
-    QTest::newRow("plus kept") << "a+b";
-    QTest::newRow("equals sign kept") << "k=v";
-    QTest::newRow("path-like") << "../x/./y";
-}
+    void absentRequiredValueStopsTheProgram()
+    {
+        QFETCH(QString, missing);
+        QFETCH(QString, message);
+        QProcess probe;
+        probe.setProcessEnvironment([] {
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("quorva.info=false"));
+            return environment;
+        }());
+        probe.start(QStringLiteral(QUORVA_REQUIRED_VALUE_PROBE), {missing});
+        QVERIFY(probe.waitForFinished(30000));
+        const QString errors = QString::fromLocal8Bit(probe.readAllStandardError());
+        QCOMPARE(probe.exitStatus(), QProcess::CrashExit);
+        QVERIFY2(errors.contains(message), qPrintable(errors));
+        QVERIFY(!probe.readAllStandardOutput().contains("request accepted"));
+    }
 
-void tst_QuorvaRestAPI::requestsGoOutAsWritten()
-{
-    QFETCH(QString, value);
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    api->setSubId2(value);
-    CallbackProbe probe;
-    start(Kind::Offers, probe);
-    QTRY_VERIFY(probe.finished());
-    const HttpRequest offers = m_server.lastRequest();
-    QVERIFY2(offers.query.find("subid2=" + value.toStdString()) != std::string::npos, offers.query.c_str());
-    // A GET carries no body headers, and no header beyond the User-Agent.
-    QCOMPARE(offers.method, std::string("GET"));
-    std::set<std::string> names;
-    for (const auto &[name, text] : offers.headers)
-        names.insert(name);
-    QCOMPARE(names, (std::set<std::string>{"host", "user-agent"}));
+    void requestsGoOutAsWritten_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::newRow("percent escape kept") << "%41";
+        QTest::newRow("escaped text kept") << "caf%C3%A9";
+        QTest::newRow("plus kept") << "a+b";
+        QTest::newRow("equals sign kept") << "k=v";
+        QTest::newRow("path-like") << "../x/./y";
+    }
 
-    start(Kind::Ticket, probe);
-    QTRY_COMPARE(probe.successes + probe.failures, 2);
-    names.clear();
-    for (const auto &[name, text] : m_server.lastRequest().headers)
-        names.insert(name);
-    QCOMPARE(names, (std::set<std::string>{"host", "user-agent", "content-type", "content-length"}));
-}
+    void requestsGoOutAsWritten()
+    {
+        QFETCH(QString, value);
+        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+        api->setSubId2(value);
+        CallbackProbe probe;
+        start(Kind::Offers, probe);
+        QTRY_VERIFY(probe.finished());
+        const HttpRequest offers = m_server.lastRequest();
+        QVERIFY2(offers.query.find("subid2=" + value.toStdString()) != std::string::npos, offers.query.c_str());
+        // A GET carries no body headers, and no header beyond the User-Agent.
+        QCOMPARE(offers.method, std::string("GET"));
+        std::set<std::string> names;
+        for (const auto &[name, text] : offers.headers)
+            names.insert(name);
+        QCOMPARE(names, (std::set<std::string>{"host", "user-agent"}));
 
-void tst_QuorvaRestAPI::unsendableAddressesFailWithoutSending_data()
-{
-    QTest::addColumn<QString>("value");
-    QTest::newRow("blank") << "a b";
-    QTest::newRow("not ASCII") << QStringLiteral("caf\u00e9");
-    QTest::newRow("fragment sign") << "a#b";
-    QTest::newRow("broken percent escape") << "100%";
-    QTest::newRow("tab") << "a\tb";
-    QTest::newRow("angle bracket") << "<b>";
-}
+        start(Kind::Ticket, probe);
+        QTRY_COMPARE(probe.successes + probe.failures, 2);
+        names.clear();
+        for (const auto &[name, text] : m_server.lastRequest().headers)
+            names.insert(name);
+        QCOMPARE(names, (std::set<std::string>{"host", "user-agent", "content-type", "content-length"}));
+    }
 
-void tst_QuorvaRestAPI::unsendableAddressesFailWithoutSending()
-{
-    QFETCH(QString, value);
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    api->setSubId1(QStringLiteral("private-user"));
-    api->setSubId2(value);
-    api->setAdvertisingInfoProvider([] { return QVAdvertisingInfo{QStringLiteral("6F9619FF-8B86-D011-B42D-00CF4FC964FF"), true}; });
-    // The whole line, so it names the request and carries none of the values.
-    QTest::ignoreMessage(QtWarningMsg, "offers request not sent: its address holds a character that cannot stand unescaped");
-    CallbackProbe probe;
-    start(Kind::Offers, probe);
-    QTRY_VERIFY(probe.finished());
-    QCOMPARE(probe.failures, 1);
-    QVERIFY(!probe.ranBeforeReturn);
-    QCOMPARE(m_server.requestCount(), 0);
-}
+    void unsendableAddressesFailWithoutSending_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::newRow("blank") << "a b";
+        QTest::newRow("not ASCII") << QStringLiteral("caf\u00e9");
+        QTest::newRow("fragment sign") << "a#b";
+        QTest::newRow("broken percent escape") << "100%";
+        QTest::newRow("tab") << "a\tb";
+        QTest::newRow("angle bracket") << "<b>";
+    }
+
+    void unsendableAddressesFailWithoutSending()
+    {
+        QFETCH(QString, value);
+        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+        api->setSubId1(QStringLiteral("private-user"));
+        api->setSubId2(value);
+        api->setAdvertisingInfoProvider([] { return QVAdvertisingInfo{QStringLiteral("6F9619FF-8B86-D011-B42D-00CF4FC964FF"), true}; });
+        // The whole line, so it names the request and carries none of the values.
+        QTest::ignoreMessage(QtWarningMsg, "offers request not sent: its address holds a character that cannot stand unescaped");
+        CallbackProbe probe;
+        start(Kind::Offers, probe);
+        QTRY_VERIFY(probe.finished());
+        QCOMPARE(probe.failures, 1);
+        QVERIFY(!probe.ranBeforeReturn);
+        QCOMPARE(m_server.requestCount(), 0);
+    }
+
+private:
+    enum class Kind { Offers, Profile, Categories, History, Ticket };
+
+    void configure(const QString &base)
+    {
+        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+        api->setServiceBaseAddress(base);
+        api->setPubId(QStringLiteral("pub1"));
+        api->setCorvelId(QStringLiteral("wall2"));
+        api->setSubId1(QStringLiteral("user3"));
+        api->setGender(QString());
+        api->setAgeRange(QString());
+        api->setSubId2(QString());
+        api->setSubId3(QString());
+        api->setSubId4(QString());
+        api->setAdvertisingInfoProvider(nullptr);
+    }
+
+    // Starts one request of the given kind; the probe counts its callbacks.
+    void start(Kind kind, CallbackProbe &probe)
+    {
+        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+        auto success = [&probe] { probe.note(); ++probe.successes; };
+        switch (kind) {
+        case Kind::Offers:
+            api->fetchOffers(0, {}, {}, false, [success](const QList<QVOffer> &, bool) { success(); }, probe.failure());
+            break;
+        case Kind::Profile:
+            api->fetchProfile([success](const QVProfile &) { success(); }, probe.failure());
+            break;
+        case Kind::Categories:
+            api->fetchCategories([success](const QList<QVCategory> &) { success(); }, probe.failure());
+            break;
+        case Kind::History:
+            api->fetchHistory([success](const QList<QVTransaction> &) { success(); }, probe.failure());
+            break;
+        case Kind::Ticket:
+            QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: ")));
+            api->createSupportTicket(QStringLiteral("Ann"), QStringLiteral("ann@example.com"), QStringLiteral("1"),
+                                     QStringLiteral("hello"), {}, {}, [success](const QVariant &) { success(); },
+                                     probe.failure());
+            break;
+        }
+        probe.requestReturned = true;
+    }
+
+    ScriptedServer m_server;
+};
 
 QTEST_GUILESS_MAIN(tst_QuorvaRestAPI)
 #include "tst_QuorvaRestAPI.moc"

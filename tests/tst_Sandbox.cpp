@@ -25,166 +25,6 @@ struct RawReply
 };
 } // namespace
 
-// The sandbox service, exercised over real sockets with the real client where it can be.
-class tst_Sandbox : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void initTestCase();
-    void init();
-
-    void badInputIsRejectedAndNothingStored_data();
-    void badInputIsRejectedAndNothingStored();
-    void ticketsSurviveARestart();
-    void creditsComeFirstInTheHistory();
-    void stalledPeersAreClosedAndServingGoesOn();
-    void overflowingIdsAreNotFound_data();
-    void overflowingIdsAreNotFound();
-    void malformedRequestsAreAnswered_data();
-    void malformedRequestsAreAnswered();
-    void ticketTextsRoundTripByteForByte();
-
-private:
-    RawReply raw(const QByteArray &verb, const QString &path, const QByteArray &body = {},
-                 const SandboxProcess *sandbox = nullptr);
-    void useSandbox(const SandboxProcess &sandbox);
-
-    std::unique_ptr<SandboxProcess> m_sandbox;
-    QNetworkAccessManager m_network;
-};
-
-void tst_Sandbox::initTestCase()
-{
-    m_sandbox = std::make_unique<SandboxProcess>();
-    QVERIFY2(m_sandbox->isRunning(), "the sandbox did not start");
-    QVERIFY(!m_sandbox->caCertificates().isEmpty());
-    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_sandbox->caCertificates());
-}
-
-void tst_Sandbox::useSandbox(const SandboxProcess &sandbox)
-{
-    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-    api->setServiceBaseAddress(sandbox.baseAddress());
-    api->setPubId(QStringLiteral("1042"));
-    api->setCorvelId(QStringLiteral("7"));
-    api->setSubId1(QStringLiteral("user-1"));
-}
-
-void tst_Sandbox::init()
-{
-    useSandbox(*m_sandbox);
-}
-
-RawReply tst_Sandbox::raw(const QByteArray &verb, const QString &path, const QByteArray &body,
-                          const SandboxProcess *sandbox)
-{
-    const SandboxProcess &target = sandbox ? *sandbox : *m_sandbox;
-    QNetworkRequest request(QUrl(QStringLiteral("https://%1%2").arg(target.baseAddress(), path)));
-    QSslConfiguration ssl = QSslConfiguration::defaultConfiguration();
-    ssl.addCaCertificates(target.caCertificates());
-    request.setSslConfiguration(ssl);
-    request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
-    QNetworkReply *reply = m_network.sendCustomRequest(request, verb, body);
-    QSignalSpy finished(reply, &QNetworkReply::finished);
-    finished.wait(10000);
-    RawReply result{reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), reply->readAll()};
-    reply->deleteLater();
-    return result;
-}
-
-void tst_Sandbox::badInputIsRejectedAndNothingStored_data()
-{
-    QTest::addColumn<QByteArray>("verb");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QByteArray>("body");
-    QTest::addColumn<int>("status");
-    const QString offers = QStringLiteral("/corvel/api/publisher/1042/profile/7/offers.json");
-    const QString tickets = QStringLiteral("/corvel/api/publisher/1042/profile/7/user/u9/tickets.json");
-    QTest::newRow("unknown publisher") << QByteArray("GET") << "/corvel/api/publisher/nobody/profile/7/offers.json?subid1=u" << QByteArray() << 404;
-    QTest::newRow("missing subid1") << QByteArray("GET") << offers + "?limit=30" << QByteArray() << 400;
-    QTest::newRow("limit not a number") << QByteArray("GET") << offers + "?subid1=u&limit=lots" << QByteArray() << 400;
-    QTest::newRow("unknown sort") << QByteArray("GET") << offers + "?subid1=u&sort_by=random" << QByteArray() << 400;
-    QTest::newRow("ticket not json") << QByteArray("POST") << tickets << QByteArray("name=Ann") << 400;
-    QTest::newRow("ticket is a list") << QByteArray("POST") << tickets << QByteArray("[]") << 400;
-    QTest::newRow("ticket lacks email") << QByteArray("POST") << tickets << QByteArray(R"({"name":"Ann","subject_id":"1"})") << 422;
-    QTest::newRow("ticket for unknown wall") << QByteArray("POST") << "/corvel/api/publisher/1042/profile/99/user/u/tickets.json"
-                                             << QByteArray(R"({"name":"A","email":"a@b.c","subject_id":"1"})") << 404;
-    QTest::newRow("no such endpoint") << QByteArray("GET") << "/corvel/nothing.json" << QByteArray() << 404;
-    const QString credits = QStringLiteral("/sandbox/publisher/1042/profile/7/user/u9/credits.json");
-    QTest::newRow("credit not json") << QByteArray("POST") << credits << QByteArray("500") << 400;
-    QTest::newRow("credit without a name") << QByteArray("POST") << credits << QByteArray(R"({"currency_adjustment":5})") << 400;
-    QTest::newRow("credit amount as text") << QByteArray("POST") << credits
-                                           << QByteArray(R"({"offer_name":"A","currency_adjustment":"5"})") << 400;
-    QTest::newRow("credit for unknown wall") << QByteArray("POST") << "/sandbox/publisher/1042/profile/99/user/u9/credits.json"
-                                             << QByteArray(R"({"offer_name":"A","currency_adjustment":5})") << 404;
-}
-
-void tst_Sandbox::badInputIsRejectedAndNothingStored()
-{
-    QFETCH(QByteArray, verb);
-    QFETCH(QString, path);
-    QFETCH(QByteArray, body);
-    QFETCH(int, status);
-    const int ticketsBefore = raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray().size();
-    const RawReply reply = raw(verb, path, body);
-    QCOMPARE(reply.status, status);
-    QVERIFY2(!reply.json()[QStringLiteral("error")].toString().isEmpty(), reply.body.constData());
-    QCOMPARE(raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray().size(), ticketsBefore);
-    QCOMPARE(raw("GET", QStringLiteral("/corvel/api/publisher/1042/profile/7/user/u9/transactions.json")).status, 204);
-}
-
-void tst_Sandbox::creditsComeFirstInTheHistory()
-{
-    const QString history = QStringLiteral("/corvel/api/publisher/1042/profile/7/user/u-credit/transactions.json");
-    const QString credits = QStringLiteral("/sandbox/publisher/1042/profile/7/user/u-credit/credits.json");
-    QCOMPARE(raw("GET", history).status, 204);
-    QCOMPARE(raw("POST", credits, R"({"offer_name":"First","currency_adjustment":500})").status, 201);
-    QCOMPARE(raw("POST", credits, R"({"offer_name":"Second","currency_adjustment":-20})").status, 201);
-    const QJsonArray rows = raw("GET", history).json()[QStringLiteral("transactions")].toArray();
-    QCOMPARE(rows.size(), 2);
-    QCOMPARE(rows[0][QStringLiteral("offer_name")].toString(), QStringLiteral("Second"));
-    QCOMPARE(rows[0][QStringLiteral("currency_adjustment")].toInt(), -20);
-    QCOMPARE(rows[1][QStringLiteral("offer_name")].toString(), QStringLiteral("First"));
-    const QDateTime stamped = QDateTime::fromString(rows[1][QStringLiteral("timestamp")].toString(), Qt::ISODate);
-    QVERIFY(qAbs(stamped.secsTo(QDateTime::currentDateTimeUtc())) < 600);
-}
-
-void tst_Sandbox::ticketsSurviveARestart()
-{
-    QTemporaryDir data;
-    QVariant firstId;
-    QVariant secondId;
-    CallbackProbe probe;
-    {
-        SandboxProcess first({}, data.path());
-        QVERIFY(first.isRunning());
-        QuorvaRestAPI::sharedInstance()->addCaCertificates(first.caCertificates());
-        useSandbox(first);
-        QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: ")));
-        QuorvaRestAPI::sharedInstance()->createSupportTicket(QStringLiteral("Ann"), QStringLiteral("ann@example.com"),
-            QStringLiteral("1"), QStringLiteral("Not credited"), QStringLiteral("Dragon Realms"), QStringLiteral("11/02/2026"),
-            [&](const QVariant &id) { ++probe.successes; firstId = id; }, probe.failure());
-        QTRY_COMPARE(probe.successes, 1);
-    }
-    SandboxProcess second({}, data.path());
-    QVERIFY(second.isRunning());
-    useSandbox(second);
-    QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: ")));
-    QuorvaRestAPI::sharedInstance()->createSupportTicket(QStringLiteral("Bob"), QStringLiteral("bob@example.com"),
-        QStringLiteral("3"), {}, {}, {}, [&](const QVariant &id) { ++probe.successes; secondId = id; }, probe.failure());
-    QTRY_COMPARE(probe.successes, 2);
-    QCOMPARE(secondId.toLongLong(), firstId.toLongLong() + 1);
-
-    const QJsonArray stored = raw("GET", QStringLiteral("/sandbox/tickets.json"), {}, &second).json()[QStringLiteral("tickets")].toArray();
-    QCOMPARE(stored.size(), 2);
-    QCOMPARE(stored[0][QStringLiteral("name")].toString(), QStringLiteral("Ann"));
-    QCOMPARE(stored[0][QStringLiteral("message")].toString(), QStringLiteral("Not credited"));
-    QCOMPARE(stored[0][QStringLiteral("offer_name")].toString(), QStringLiteral("Dragon Realms"));
-    QCOMPARE(stored[0][QStringLiteral("user")].toString(), QStringLiteral("user-1"));
-    QVERIFY(!stored[1].toObject().contains(QStringLiteral("message")));
-}
-
 namespace {
 // The status line's code of whatever the server answers to these raw bytes over http.
 int rawStatus(quint16 port, const QByteArray &bytes)
@@ -202,86 +42,228 @@ int rawStatus(quint16 port, const QByteArray &bytes)
 }
 } // namespace
 
-void tst_Sandbox::stalledPeersAreClosedAndServingGoesOn()
+// The sandbox service, exercised over real sockets with the real client where it can be.
+class tst_Sandbox : public QObject
 {
-    // Few file handles and short time-outs: more stalled peers than handles, at once.
-    SandboxProcess sandbox({QStringLiteral("--handshake-timeout"), QStringLiteral("400"),
-                            QStringLiteral("--header-timeout"), QStringLiteral("400"),
-                            QStringLiteral("--body-timeout"), QStringLiteral("400")},
-                           {}, 48);
-    QVERIFY(sandbox.isRunning());
-    std::vector<std::unique_ptr<QTcpSocket>> peers;
-    const QByteArray halfRequest = "GET /corvel/categories.json?visibility=1 HTTP/1.1\r\nHost: x\r\n";
-    const QByteArray halfBody = "POST /corvel/api/publisher/1042/profile/7/user/u/tickets.json HTTP/1.1\r\n"
-                                "Host: x\r\nContent-Length: 100\r\n\r\n{\"name\"";
-    const QByteArray halfHandshake = QByteArray::fromHex("160301020001");
-    for (int i = 0; i < 80; ++i) {
-        auto socket = std::make_unique<QTcpSocket>();
-        socket->connectToHost(QHostAddress::LocalHost, sandbox.port());
-        QVERIFY(socket->waitForConnected(5000));
-        const QByteArray opening[] = {{}, halfRequest, halfBody, halfHandshake};
-        socket->write(opening[i % 4]);
-        socket->flush();
-        peers.push_back(std::move(socket));
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        m_sandbox = std::make_unique<SandboxProcess>();
+        QVERIFY2(m_sandbox->isRunning(), "the sandbox did not start");
+        QVERIFY(!m_sandbox->caCertificates().isEmpty());
+        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_sandbox->caCertificates());
     }
-    // The server closes every stalled peer by itself...
-    QTRY_VERIFY_WITH_TIMEOUT(std::all_of(peers.begin(), peers.end(), [](const auto &socket) {
-        return socket->state() == QAbstractSocket::UnconnectedState;
-    }), kPatienceMs);
-    // ...and keeps serving.
-    QVERIFY(sandbox.processAlive());
-    QCOMPARE(raw("GET", QStringLiteral("/corvel/categories.json?visibility=1"), {}, &sandbox).status, 200);
-}
 
-void tst_Sandbox::overflowingIdsAreNotFound_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("picture") << "/img/99999999999999999999.png";
-    QTest::newRow("click") << "/click/99999999999999999999999999999999";
-}
+    void init()
+    {
+        useSandbox(*m_sandbox);
+    }
 
-void tst_Sandbox::overflowingIdsAreNotFound()
-{
-    QFETCH(QString, path);
-    QCOMPARE(raw("GET", path).status, 404);
-    QCOMPARE(raw("GET", QStringLiteral("/img/5.png")).status, 200); // still serving
-}
+    void badInputIsRejectedAndNothingStored_data()
+    {
+        QTest::addColumn<QByteArray>("verb");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<int>("status");
+        const QString offers = QStringLiteral("/corvel/api/publisher/1042/profile/7/offers.json");
+        const QString tickets = QStringLiteral("/corvel/api/publisher/1042/profile/7/user/u9/tickets.json");
+        QTest::newRow("unknown publisher") << QByteArray("GET") << "/corvel/api/publisher/nobody/profile/7/offers.json?subid1=u" << QByteArray() << 404;
+        QTest::newRow("missing subid1") << QByteArray("GET") << offers + "?limit=30" << QByteArray() << 400;
+        QTest::newRow("limit not a number") << QByteArray("GET") << offers + "?subid1=u&limit=lots" << QByteArray() << 400;
+        QTest::newRow("unknown sort") << QByteArray("GET") << offers + "?subid1=u&sort_by=random" << QByteArray() << 400;
+        QTest::newRow("ticket not json") << QByteArray("POST") << tickets << QByteArray("name=Ann") << 400;
+        QTest::newRow("ticket is a list") << QByteArray("POST") << tickets << QByteArray("[]") << 400;
+        QTest::newRow("ticket lacks email") << QByteArray("POST") << tickets << QByteArray(R"({"name":"Ann","subject_id":"1"})") << 422;
+        QTest::newRow("ticket for unknown wall") << QByteArray("POST") << "/corvel/api/publisher/1042/profile/99/user/u/tickets.json"
+                                                 << QByteArray(R"({"name":"A","email":"a@b.c","subject_id":"1"})") << 404;
+        QTest::newRow("no such endpoint") << QByteArray("GET") << "/corvel/nothing.json" << QByteArray() << 404;
+        const QString credits = QStringLiteral("/sandbox/publisher/1042/profile/7/user/u9/credits.json");
+        QTest::newRow("credit not json") << QByteArray("POST") << credits << QByteArray("500") << 400;
+        QTest::newRow("credit without a name") << QByteArray("POST") << credits << QByteArray(R"({"currency_adjustment":5})") << 400;
+        QTest::newRow("credit amount as text") << QByteArray("POST") << credits
+                                               << QByteArray(R"({"offer_name":"A","currency_adjustment":"5"})") << 400;
+        QTest::newRow("credit for unknown wall") << QByteArray("POST") << "/sandbox/publisher/1042/profile/99/user/u9/credits.json"
+                                                 << QByteArray(R"({"offer_name":"A","currency_adjustment":5})") << 404;
+    }
 
-void tst_Sandbox::malformedRequestsAreAnswered_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<int>("status");
-    QTest::newRow("not http") << QByteArray("HELLO THERE\r\n\r\n") << 400;
-    QTest::newRow("bad content length") << QByteArray("POST /x HTTP/1.1\r\nHost: x\r\nContent-Length: lots\r\n\r\n") << 400;
-    QTest::newRow("target too long") << "GET /" + QByteArray(40000, 'a') + " HTTP/1.1\r\nHost: x\r\n\r\n" << 414;
-    QTest::newRow("header too large")
-        << "GET /img/5.png HTTP/1.1\r\nHost: x\r\nX-Big: " + QByteArray(40000, 'b') + "\r\n\r\n" << 431;
-    QTest::newRow("body too large")
-        << QByteArray("POST /corvel/api/publisher/1042/profile/7/user/u/tickets.json HTTP/1.1\r\n"
-                      "Host: x\r\nContent-Length: 50000000\r\n\r\n{") << 413;
-}
+    void badInputIsRejectedAndNothingStored()
+    {
+        QFETCH(QByteArray, verb);
+        QFETCH(QString, path);
+        QFETCH(QByteArray, body);
+        QFETCH(int, status);
+        const int ticketsBefore = raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray().size();
+        const RawReply reply = raw(verb, path, body);
+        QCOMPARE(reply.status, status);
+        QVERIFY2(!reply.json()[QStringLiteral("error")].toString().isEmpty(), reply.body.constData());
+        QCOMPARE(raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray().size(), ticketsBefore);
+        QCOMPARE(raw("GET", QStringLiteral("/corvel/api/publisher/1042/profile/7/user/u9/transactions.json")).status, 204);
+    }
 
-void tst_Sandbox::malformedRequestsAreAnswered()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(int, status);
-    QCOMPARE(rawStatus(m_sandbox->port(), bytes), status);
-}
+    void ticketsSurviveARestart()
+    {
+        QTemporaryDir data;
+        QVariant firstId;
+        QVariant secondId;
+        CallbackProbe probe;
+        {
+            SandboxProcess first({}, data.path());
+            QVERIFY(first.isRunning());
+            QuorvaRestAPI::sharedInstance()->addCaCertificates(first.caCertificates());
+            useSandbox(first);
+            QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: ")));
+            QuorvaRestAPI::sharedInstance()->createSupportTicket(QStringLiteral("Ann"), QStringLiteral("ann@example.com"),
+                QStringLiteral("1"), QStringLiteral("Not credited"), QStringLiteral("Dragon Realms"), QStringLiteral("11/02/2026"),
+                [&](const QVariant &id) { ++probe.successes; firstId = id; }, probe.failure());
+            QTRY_COMPARE(probe.successes, 1);
+        }
+        SandboxProcess second({}, data.path());
+        QVERIFY(second.isRunning());
+        useSandbox(second);
+        QTest::ignoreMessage(QtInfoMsg, QRegularExpression(QStringLiteral("^params: ")));
+        QuorvaRestAPI::sharedInstance()->createSupportTicket(QStringLiteral("Bob"), QStringLiteral("bob@example.com"),
+            QStringLiteral("3"), {}, {}, {}, [&](const QVariant &id) { ++probe.successes; secondId = id; }, probe.failure());
+        QTRY_COMPARE(probe.successes, 2);
+        QCOMPARE(secondId.toLongLong(), firstId.toLongLong() + 1);
 
-void tst_Sandbox::ticketTextsRoundTripByteForByte()
-{
-    const QString message = QStringLiteral("before") + QChar(0) + QStringLiteral("after \u00e9\U0001F600");
-    const QJsonObject ticket{{"name", "Nul"}, {"email", "nul@example.com"}, {"subject_id", "3"}, {"message", message}};
-    const RawReply created = raw("POST", QStringLiteral("/corvel/api/publisher/1042/profile/7/user/nul/tickets.json"),
-                                 QJsonDocument(ticket).toJson());
-    QCOMPARE(created.status, 201);
-    const QJsonArray stored = raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray();
-    const auto mine = std::find_if(stored.begin(), stored.end(), [&](const QJsonValue &t) {
-        return t[QStringLiteral("ticket_id")] == created.json()[QStringLiteral("ticket_id")];
-    });
-    QVERIFY(mine != stored.end());
-    QCOMPARE((*mine)[QStringLiteral("message")].toString(), message);
-}
+        const QJsonArray stored = raw("GET", QStringLiteral("/sandbox/tickets.json"), {}, &second).json()[QStringLiteral("tickets")].toArray();
+        QCOMPARE(stored.size(), 2);
+        QCOMPARE(stored[0][QStringLiteral("name")].toString(), QStringLiteral("Ann"));
+        QCOMPARE(stored[0][QStringLiteral("message")].toString(), QStringLiteral("Not credited"));
+        QCOMPARE(stored[0][QStringLiteral("offer_name")].toString(), QStringLiteral("Dragon Realms"));
+        QCOMPARE(stored[0][QStringLiteral("user")].toString(), QStringLiteral("user-1"));
+        QVERIFY(!stored[1].toObject().contains(QStringLiteral("message")));
+    }
+
+    void creditsComeFirstInTheHistory()
+    {
+        const QString history = QStringLiteral("/corvel/api/publisher/1042/profile/7/user/u-credit/transactions.json");
+        const QString credits = QStringLiteral("/sandbox/publisher/1042/profile/7/user/u-credit/credits.json");
+        QCOMPARE(raw("GET", history).status, 204);
+        QCOMPARE(raw("POST", credits, R"({"offer_name":"First","currency_adjustment":500})").status, 201);
+        QCOMPARE(raw("POST", credits, R"({"offer_name":"Second","currency_adjustment":-20})").status, 201);
+        const QJsonArray rows = raw("GET", history).json()[QStringLiteral("transactions")].toArray();
+        QCOMPARE(rows.size(), 2);
+        QCOMPARE(rows[0][QStringLiteral("offer_name")].toString(), QStringLiteral("Second"));
+        QCOMPARE(rows[0][QStringLiteral("currency_adjustment")].toInt(), -20);
+        QCOMPARE(rows[1][QStringLiteral("offer_name")].toString(), QStringLiteral("First"));
+        const QDateTime stamped = QDateTime::fromString(rows[1][QStringLiteral("timestamp")].toString(), Qt::ISODate);
+        QVERIFY(qAbs(stamped.secsTo(QDateTime::currentDateTimeUtc())) < 600);
+    }
+
+    void stalledPeersAreClosedAndServingGoesOn()
+    {
+        // Few file handles and short time-outs: more stalled peers than handles, at once.
+        SandboxProcess sandbox({QStringLiteral("--handshake-timeout"), QStringLiteral("400"),
+                                QStringLiteral("--header-timeout"), QStringLiteral("400"),
+                                QStringLiteral("--body-timeout"), QStringLiteral("400")},
+                               {}, 48);
+        QVERIFY(sandbox.isRunning());
+        std::vector<std::unique_ptr<QTcpSocket>> peers;
+        const QByteArray halfRequest = "GET /corvel/categories.json?visibility=1 HTTP/1.1\r\nHost: x\r\n";
+        const QByteArray halfBody = "POST /corvel/api/publisher/1042/profile/7/user/u/tickets.json HTTP/1.1\r\n"
+                                    "Host: x\r\nContent-Length: 100\r\n\r\n{\"name\"";
+        const QByteArray halfHandshake = QByteArray::fromHex("160301020001");
+        for (int i = 0; i < 80; ++i) {
+            auto socket = std::make_unique<QTcpSocket>();
+            socket->connectToHost(QHostAddress::LocalHost, sandbox.port());
+            QVERIFY(socket->waitForConnected(5000));
+            const QByteArray opening[] = {{}, halfRequest, halfBody, halfHandshake};
+            socket->write(opening[i % 4]);
+            socket->flush();
+            peers.push_back(std::move(socket));
+        }
+        // The server closes every stalled peer by itself...
+        QTRY_VERIFY_WITH_TIMEOUT(std::all_of(peers.begin(), peers.end(), [](const auto &socket) {
+            return socket->state() == QAbstractSocket::UnconnectedState;
+        }), kPatienceMs);
+        // ...and keeps serving.
+        QVERIFY(sandbox.processAlive());
+        QCOMPARE(raw("GET", QStringLiteral("/corvel/categories.json?visibility=1"), {}, &sandbox).status, 200);
+    }
+
+    void overflowingIdsAreNotFound_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("picture") << "/img/99999999999999999999.png";
+        QTest::newRow("click") << "/click/99999999999999999999999999999999";
+    }
+
+    void overflowingIdsAreNotFound()
+    {
+        QFETCH(QString, path);
+        QCOMPARE(raw("GET", path).status, 404);
+        QCOMPARE(raw("GET", QStringLiteral("/img/5.png")).status, 200); // still serving
+    }
+
+    void malformedRequestsAreAnswered_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<int>("status");
+        QTest::newRow("not http") << QByteArray("HELLO THERE\r\n\r\n") << 400;
+        QTest::newRow("bad content length") << QByteArray("POST /x HTTP/1.1\r\nHost: x\r\nContent-Length: lots\r\n\r\n") << 400;
+        QTest::newRow("target too long") << "GET /" + QByteArray(40000, 'a') + " HTTP/1.1\r\nHost: x\r\n\r\n" << 414;
+        QTest::newRow("header too large")
+            << "GET /img/5.png HTTP/1.1\r\nHost: x\r\nX-Big: " + QByteArray(40000, 'b') + "\r\n\r\n" << 431;
+        QTest::newRow("body too large")
+            << QByteArray("POST /corvel/api/publisher/1042/profile/7/user/u/tickets.json HTTP/1.1\r\n"
+                          "Host: x\r\nContent-Length: 50000000\r\n\r\n{") << 413;
+    }
+
+    void malformedRequestsAreAnswered()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(int, status);
+        QCOMPARE(rawStatus(m_sandbox->port(), bytes), status);
+    }
+
+    void ticketTextsRoundTripByteForByte()
+    {
+        const QString message = QStringLiteral("before") + QChar(0) + QStringLiteral("after \u00e9\U0001F600");
+        const QJsonObject ticket{{"name", "Nul"}, {"email", "nul@example.com"}, {"subject_id", "3"}, {"message", message}};
+        const RawReply created = raw("POST", QStringLiteral("/corvel/api/publisher/1042/profile/7/user/nul/tickets.json"),
+                                     QJsonDocument(ticket).toJson());
+        QCOMPARE(created.status, 201);
+        const QJsonArray stored = raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray();
+        const auto mine = std::find_if(stored.begin(), stored.end(), [&](const QJsonValue &t) {
+            return t[QStringLiteral("ticket_id")] == created.json()[QStringLiteral("ticket_id")];
+        });
+        QVERIFY(mine != stored.end());
+        QCOMPARE((*mine)[QStringLiteral("message")].toString(), message);
+    }
+
+private:
+    RawReply raw(const QByteArray &verb, const QString &path, const QByteArray &body = {},
+                 const SandboxProcess *sandbox = nullptr)
+    {
+        const SandboxProcess &target = sandbox ? *sandbox : *m_sandbox;
+        QNetworkRequest request(QUrl(QStringLiteral("https://%1%2").arg(target.baseAddress(), path)));
+        QSslConfiguration ssl = QSslConfiguration::defaultConfiguration();
+        ssl.addCaCertificates(target.caCertificates());
+        request.setSslConfiguration(ssl);
+        request.setHeader(QNetworkRequest::ContentTypeHeader, QStringLiteral("application/json"));
+        QNetworkReply *reply = m_network.sendCustomRequest(request, verb, body);
+        QSignalSpy finished(reply, &QNetworkReply::finished);
+        finished.wait(10000);
+        RawReply result{reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt(), reply->readAll()};
+        reply->deleteLater();
+        return result;
+    }
+
+    void useSandbox(const SandboxProcess &sandbox)
+    {
+        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+        api->setServiceBaseAddress(sandbox.baseAddress());
+        api->setPubId(QStringLiteral("1042"));
+        api->setCorvelId(QStringLiteral("7"));
+        api->setSubId1(QStringLiteral("user-1"));
+    }
+
+    std::unique_ptr<SandboxProcess> m_sandbox;
+    QNetworkAccessManager m_network;
+};
 
 QTEST_GUILESS_MAIN(tst_Sandbox)
 #include "tst_Sandbox.moc"

@@ -1,22 +1,17 @@
 quorva_add_test(tst_QVImageView)
-quorva_add_test(tst_QVColor)
 quorva_add_test(tst_QVTheme)
 quorva_add_test(tst_QVLanguage)
 quorva_add_test(tst_QVKeyboard ${PROJECT_SOURCE_DIR}/demo/KeyboardPanel.cpp)
 target_include_directories(tst_QVKeyboard PRIVATE ${PROJECT_SOURCE_DIR}/demo)
-quorva_add_test(tst_QVSpringCurve)
-quorva_add_test(tst_QVPayoutFormatter)
 quorva_add_test(tst_QVOffersViewController)
 target_compile_definitions(tst_QVOffersViewController PRIVATE QUORVA_HOST_LIFE_PROBE="$<TARGET_FILE:host_life_probe>")
 add_dependencies(tst_QVOffersViewController host_life_probe quorva-sandbox)
 quorva_add_test(tst_QVOfferWallPreload)
 quorva_add_test(tst_QVFiltersViewController)
 quorva_add_test(tst_QVSupportViewController)
-quorva_add_test(tst_QVFAQViewController)
-quorva_add_test(tst_QVHistoryViewController)
 quorva_add_test(tst_QVEmailViewController)
 
 # The suites that put a wall in a window; scripts/stress runs these.
 set_tests_properties(tst_QVImageView tst_QVLanguage tst_QVKeyboard tst_QVOffersViewController
-    tst_QVOfferWallPreload tst_QVFiltersViewController tst_QVSupportViewController tst_QVFAQViewController
-    tst_QVHistoryViewController tst_QVEmailViewController PROPERTIES LABELS ui)
+    tst_QVOfferWallPreload tst_QVFiltersViewController tst_QVSupportViewController
+    tst_QVEmailViewController PROPERTIES LABELS ui)

@@ -35,16 +35,12 @@ private slots:
     void initTestCase()
     {
         qRegisterMetaType<QList<QVTransaction>>();
-        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
     }
 
     void init()
     {
-        QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
-        m_service.setHistoryDropped(false);
-        m_service.setHistoryHeld(false);
+        m_service.reset();
         m_service.setHistory(200, history({QStringLiteral("Old:10")}));
-        m_service.server().clearRequests();
     }
 
     void cleanup() { finishPendingRequests(); }

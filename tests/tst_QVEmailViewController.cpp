@@ -35,18 +35,10 @@ class tst_QVEmailViewController : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
-    }
-
     void init()
     {
-        QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
+        m_service.reset();
         QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-        m_service.setTicketsDropped(false);
-        m_service.setTicketsHeld(false);
-        m_service.server().clearRequests();
     }
 
     void cleanup() { finishPendingRequests(); }

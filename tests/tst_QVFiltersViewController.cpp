@@ -61,20 +61,11 @@ class tst_QVFiltersViewController : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
-    }
-
     void init()
     {
-        QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
+        m_service.reset();
         QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
         QVFiltersViewController::resetAllCategories();
-        m_service.setOffersHeld(false);
-        m_service.setCategoriesDropped(false);
-        m_service.setPayout(1500);
-        m_service.server().clearRequests();
     }
 
     void cleanup() { finishPendingRequests(); }

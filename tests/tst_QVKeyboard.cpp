@@ -11,14 +11,9 @@ class tst_QVKeyboard : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
-    }
-
     void init()
     {
-        QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
+        m_service.reset();
     }
 
     void cleanup() { finishPendingRequests(); }

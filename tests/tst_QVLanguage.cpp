@@ -113,17 +113,10 @@ class tst_QVLanguage : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
-    }
-
     void init()
     {
         QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-        QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
-        m_service.setTotalOffers(95);
-        m_service.setOffersDropped(false);
+        m_service.reset();
     }
 
     void cleanup()

@@ -14,22 +14,10 @@ class tst_QVOfferWallPreload : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
-        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-    }
-
     void init()
     {
-        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-        api->setServiceBaseAddress(m_service.baseAddress());
-        api->setGender({});
-        api->setSubId3({});
-        m_service.setTotalOffers(95);
-        m_service.setOffersHeld(false);
-        m_service.setOffersDropped(false);
-        m_service.server().clearRequests();
+        m_service.reset();
+        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
     }
 
     void cleanup() { finishPendingRequests(); }

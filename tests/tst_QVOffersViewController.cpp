@@ -40,30 +40,10 @@ class tst_QVOffersViewController : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
-        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-    }
-
     void init()
     {
-        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-        api->setServiceBaseAddress(m_service.baseAddress());
-        api->setGender({});
-        api->setAgeRange({});
-        api->setSubId2({});
-        api->setSubId3({});
-        api->setSubId4({});
-        m_service.setTotalOffers(95);
-        m_service.setOffersHeld(false);
-        m_service.setOffersDropped(false);
-        m_service.setOffersStalled(false);
-        m_service.setProfileDropped(false);
-        m_service.setPayout(1500);
-        m_service.setHistory(200, R"({"transactions":[]})");
-        api->setTransferTimeout(QuorvaRestAPI::kDefaultTransferTimeout);
-        m_service.server().clearRequests();
+        m_service.reset();
+        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
         QVImageCache::sharedImageCache()->clear();
     }
 

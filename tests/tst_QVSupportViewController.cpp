@@ -47,19 +47,10 @@ class tst_QVSupportViewController : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QuorvaRestAPI::sharedInstance()->addCaCertificates(m_service.server().caCertificates());
-    }
-
     void init()
     {
-        QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(m_service.baseAddress());
+        m_service.reset();
         QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-        m_service.setProfileHeld(false);
-        m_service.setHistoryDropped(false);
-        m_service.setHistory(200, R"({"transactions":[]})");
-        m_service.server().clearRequests();
     }
 
     void cleanup() { finishPendingRequests(); }

@@ -6,6 +6,8 @@
 #include <QtCore/QJsonObject>
 #include <QtGui/QImage>
 
+#include <QuorvaMedia/QuorvaRestAPI.h>
+
 using quorva::http::HttpRequest;
 using quorva::http::HttpResponse;
 
@@ -31,6 +33,7 @@ std::string tinyPng()
 
 FakeOfferService::FakeOfferService()
 {
+    QuorvaRestAPI::sharedInstance()->addCaCertificates(m_server.caCertificates());
     const std::string png = tinyPng();
     m_server.respond([this, png](const HttpRequest &request) {
         const std::string &path = request.path;
@@ -103,6 +106,24 @@ FakeOfferService::FakeOfferService()
         }
         return HttpResponse::json(404, R"({"error":"no such endpoint"})");
     });
+}
+
+void FakeOfferService::reset()
+{
+    m_total = 95;
+    m_payout = 1500;
+    for (std::atomic<bool> *knob : {&m_offersDropped, &m_offersStalled, &m_offersHeld, &m_profileDropped,
+                                    &m_categoriesDropped, &m_historyDropped, &m_historyHeld, &m_profileHeld,
+                                    &m_ticketsDropped, &m_ticketsHeld})
+        *knob = false;
+    setHistory(200, R"({"transactions":[]})");
+    m_server.clearRequests();
+    QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+    api->setServiceBaseAddress(baseAddress());
+    for (auto set : {&QuorvaRestAPI::setGender, &QuorvaRestAPI::setAgeRange, &QuorvaRestAPI::setSubId2,
+                     &QuorvaRestAPI::setSubId3, &QuorvaRestAPI::setSubId4})
+        (api->*set)(QString());
+    api->setTransferTimeout(QuorvaRestAPI::kDefaultTransferTimeout);
 }
 
 QList<QMap<QString, QString>> FakeOfferService::offersQueries() const

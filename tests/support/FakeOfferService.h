@@ -16,7 +16,12 @@
 class FakeOfferService
 {
 public:
+    // Its certificate authority is added to the client's.
     FakeOfferService();
+
+    // Every knob back to its default, nothing recorded, and the client pointed here with
+    // no targeting and its default time-out: where each test starts.
+    void reset();
 
     ScriptedServer &server() { return m_server; }
     QString baseAddress() const { return m_server.baseAddress(); }

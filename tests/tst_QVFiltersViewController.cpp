@@ -73,8 +73,7 @@ private slots:
     void phonePanelDropsInUnderTheHeader()
     {
         WallHarness harness;
-        QVERIFY(harness.show());
-        QTRY_COMPARE(harness.wall->offersList().size(), 30);
+        QVERIFY(harness.showFirstPage());
         QQuickItem *title = harness.find(QStringLiteral("headerTitle"));
         QTRY_COMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
 
@@ -119,8 +118,7 @@ private slots:
     void selectionRulesAndSavingReloadsFromZero()
     {
         WallHarness harness;
-        QVERIFY(harness.show());
-        QTRY_COMPARE(harness.wall->offersList().size(), 30);
+        QVERIFY(harness.showFirstPage());
         harness.scrollToEnd();
         QTRY_COMPARE(harness.wall->offersList().size(), 60);
         QTRY_COMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
@@ -159,8 +157,7 @@ private slots:
     void savedChoiceReopensCheckedAndCategoriesLoadOnce()
     {
         WallHarness harness;
-        QVERIFY(harness.show());
-        QTRY_COMPARE(harness.wall->offersList().size(), 30);
+        QVERIFY(harness.showFirstPage());
         QVFiltersViewController *panel = openPanel(harness);
         harness.click(rowsOf(panel).value(QStringLiteral("Games")));
         harness.click(rowsOf(panel).value(QStringLiteral("Payout: High to Low")));
@@ -205,8 +202,7 @@ private slots:
     void savingWhileAPageIsInFlight()
     {
         WallHarness harness;
-        QVERIFY(harness.show());
-        QTRY_COMPARE(harness.wall->offersList().size(), 30);
+        QVERIFY(harness.showFirstPage());
         QVFiltersViewController *panel = openPanel(harness);
         harness.click(rowsOf(panel).value(QStringLiteral("Trending")));
         m_service.setOffersHeld(true);
@@ -271,8 +267,7 @@ private slots:
     {
         m_service.setCategoriesDropped(true);
         WallHarness harness;
-        QVERIFY(harness.show());
-        QTRY_COMPARE(harness.wall->offersList().size(), 30);
+        QVERIFY(harness.showFirstPage());
         QTest::ignoreMessage(QtInfoMsg, "Categories request failed");
         harness.click(harness.find(QStringLiteral("filterBtn")));
         QVFiltersViewController *panel = harness.wall->filterVC();
@@ -305,8 +300,7 @@ private slots:
     void openPanelTakesEveryTouchInItsArea()
     {
         WallHarness harness;
-        QVERIFY(harness.show());
-        QTRY_COMPARE(harness.wall->offersList().size(), 30);
+        QVERIFY(harness.showFirstPage());
         QVFiltersViewController *panel = openPanel(harness);
         QVERIFY(panel);
         harness.click(rowsOf(panel).value(QStringLiteral("Trending"))); // reveals the save button
@@ -351,8 +345,7 @@ private slots:
         QFETCH(bool, tablet);
         QVDevice::setUserInterfaceIdiom(tablet ? QVDevice::Idiom::Tablet : QVDevice::Idiom::Phone);
         WallHarness harness(tablet ? QSize(1024, 768) : QSize(390, 780));
-        QVERIFY(harness.show());
-        QTRY_COMPARE(harness.wall->offersList().size(), 30);
+        QVERIFY(harness.showFirstPage());
         QVFiltersViewController *panel = openPanel(harness);
         QVERIFY(panel);
         harness.click(rowsOf(panel).value(QStringLiteral("Trending")));

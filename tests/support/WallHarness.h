@@ -60,6 +60,12 @@ public:
             && nextFrame();
     }
 
+    // Shown, and the first page of offers in the list.
+    bool showFirstPage()
+    {
+        return show() && QTest::qWaitFor([this] { return wall->offersList().size() == 30; }, kPatienceMs);
+    }
+
     // Waits until a frame that began after this call is on screen.
     bool nextFrame() { return waitForNextFrame(window.get()); }
 

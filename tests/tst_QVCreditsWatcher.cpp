@@ -102,23 +102,23 @@ private slots:
 
         QVCreditsWatcher fresh(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
         m_service.setHistory(status, body);
-        m_service.setHistoryDropped(dropped);
+        m_service.setDropped(FakeOfferService::History, dropped);
         QVERIFY(poll(fresh));
         QCOMPARE(fresh.hasBaseline(), counts);
 
         QVCreditsWatcher watching(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
         QSignalSpy credits(&watching, &QVCreditsWatcher::creditsReceived);
         m_service.setHistory(200, history({QStringLiteral("Old:10")}));
-        m_service.setHistoryDropped(false);
+        m_service.setDropped(FakeOfferService::History, false);
         QVERIFY(poll(watching));
         m_service.setHistory(status, body);
-        m_service.setHistoryDropped(dropped);
+        m_service.setDropped(FakeOfferService::History, dropped);
         QVERIFY(poll(watching));
         QCOMPARE(credits.count(), 0);
 
         // The next good answer reports the new row once, whatever the failed poll held.
         m_service.setHistory(200, history({QStringLiteral("New:50"), QStringLiteral("Old:10")}));
-        m_service.setHistoryDropped(false);
+        m_service.setDropped(FakeOfferService::History, false);
         QVERIFY(poll(watching));
         QCOMPARE(credits.count(), 1);
         QCOMPARE(names(credits.takeFirst().at(0).value<QList<QVTransaction>>()), QStringList({QStringLiteral("New:50")}));
@@ -127,7 +127,7 @@ private slots:
     void onePollAtATime()
     {
         QVCreditsWatcher watcher(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
-        m_service.setHistoryHeld(true);
+        m_service.setHeld(FakeOfferService::History, true);
         watcher.setActive(true); // polls at once
         QTRY_COMPARE(m_service.requestsTo("/transactions.json"), 1);
         for (int i = 0; i < 5; ++i)
@@ -137,7 +137,7 @@ private slots:
 
         // The presses made while it was under way add up to one more poll, then it waits.
         QSignalSpy checking(&watcher, &QVCreditsWatcher::checkingChanged);
-        m_service.setHistoryHeld(false);
+        m_service.setHeld(FakeOfferService::History, false);
         QTRY_VERIFY(!watcher.isChecking());
         QCOMPARE(m_service.requestsTo("/transactions.json"), 2);
         QCOMPARE(checking.count(), 1);

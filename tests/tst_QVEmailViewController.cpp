@@ -397,17 +397,17 @@ private slots:
         form->enterInfoView()->emailTextField()->setProperty("text", QStringLiteral("ann@example.com"));
         form->enterCommentView()->commentInputField()->setProperty("text", QStringLiteral("Twice"));
         // The button is not disabled while a ticket is under way: each press files one.
-        m_service.setTicketsHeld(true);
+        m_service.setHeld(FakeOfferService::Tickets, true);
         harness.clickInForm(form, form->sendButtonView()->sendBtn());
         harness.click(form->sendButtonView()->sendBtn());
         QTRY_COMPARE(m_service.tickets().size(), 2);
-        m_service.setTicketsHeld(false);
+        m_service.setHeld(FakeOfferService::Tickets, false);
         QTRY_COMPARE(form->findChildren<QObject *>(QStringLiteral("alert")).size(), 2);
     }
 
     void failureKeepsEveryField()
     {
-        m_service.setTicketsDropped(true);
+        m_service.setDropped(FakeOfferService::Tickets, true);
         SupportHarness harness;
         QVERIFY(harness.show());
         QVEmailViewController *form = formInState(harness, 2);

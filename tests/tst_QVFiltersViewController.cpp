@@ -205,14 +205,14 @@ private slots:
         QVERIFY(harness.showFirstPage());
         QVFiltersViewController *panel = openPanel(harness);
         harness.click(rowsOf(panel).value(QStringLiteral("Trending")));
-        m_service.setOffersHeld(true);
+        m_service.setHeld(FakeOfferService::Offers, true);
         harness.wall->loadMoreOffers(); // the page for offset 30 is now in flight
         QVERIFY(harness.wall->loadingOffers());
         harness.click(panel->findChild<QQuickItem *>(QStringLiteral("saveButton")));
         // The list is emptied, but the new first page is dropped by the paging guard; the
         // old filter's late page lands in the emptied list.
         QCOMPARE(harness.wall->offersList().size(), 0);
-        m_service.setOffersHeld(false);
+        m_service.setHeld(FakeOfferService::Offers, false);
         QTRY_COMPARE(harness.wall->offersList().size(), 30);
         QCOMPARE(harness.wall->offersList().first().offerId(), QStringLiteral("30"));
         QCOMPARE(m_service.requestsTo("/offers.json"), 2);
@@ -265,7 +265,7 @@ private slots:
 
     void categoriesFailure()
     {
-        m_service.setCategoriesDropped(true);
+        m_service.setDropped(FakeOfferService::Categories, true);
         WallHarness harness;
         QVERIFY(harness.showFirstPage());
         QTest::ignoreMessage(QtInfoMsg, "Categories request failed");
@@ -290,7 +290,7 @@ private slots:
         QVERIFY(!m_service.offersQueries().last().contains("featured_only"));
 
         // The next panel tries again.
-        m_service.setCategoriesDropped(false);
+        m_service.setDropped(FakeOfferService::Categories, false);
         QTRY_VERIFY(harness.wall->filterVC() == nullptr);
         panel = openPanel(harness);
         QTRY_COMPARE(rowsOf(panel).size(), 8);

@@ -242,7 +242,7 @@ private slots:
         m_service.setHistory(200, R"({"transactions":[]})");
         QVCreditsWatcher watcher(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
         watcher.checkNow();
-        m_service.setOffersDropped(true);
+        m_service.setDropped(FakeOfferService::Offers, true);
         // Log lines stay English in every language: a translated one would not match.
         QTest::ignoreMessage(QtInfoMsg, "offers request failed");
         SupportHarness harness(size);
@@ -252,7 +252,7 @@ private slots:
         QTRY_VERIFY(harness.alert() && harness.alert()->property("opened").toBool());
         VERIFY_TEXTS_READ_WELL(harness);
         closeAlert(harness.wall);
-        m_service.setOffersDropped(false);
+        m_service.setDropped(FakeOfferService::Offers, false);
         m_service.setTotalOffers(0);
         harness.wall->onRetryPressed();
         QTRY_VERIFY(harness.find(QStringLiteral("noOffersLabel"))->isVisible());

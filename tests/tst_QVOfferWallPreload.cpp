@@ -81,11 +81,11 @@ private slots:
     {
         QFETCH(QString, reason);
         const auto restoreAge = qScopeGuard([] { quorva::detail::setPreloadMaximumAge(std::chrono::minutes(5)); });
-        m_service.setOffersDropped(reason == QLatin1String("failed"));
+        m_service.setDropped(FakeOfferService::Offers, reason == QLatin1String("failed"));
         QVOfferWallPreload *ahead = preload();
         QTRY_VERIFY(ahead->isReady() || ahead->isFailed());
         QCOMPARE(ahead->isFailed(), reason == QLatin1String("failed"));
-        m_service.setOffersDropped(false);
+        m_service.setDropped(FakeOfferService::Offers, false);
         if (reason == QLatin1String("targeting"))
             QuorvaRestAPI::sharedInstance()->setGender(QStringLiteral("f"));
         if (reason == QLatin1String("stale"))
@@ -108,14 +108,14 @@ private slots:
 
     void wallWaitsForAPreloadStillUnderWay()
     {
-        m_service.setOffersHeld(true);
+        m_service.setHeld(FakeOfferService::Offers, true);
         QVOfferWallPreload *ahead = preload();
         QTRY_COMPARE(m_service.requestsTo("/offers.json"), 1);
         WallHarness harness;
         QVERIFY(harness.show());
         QVERIFY(harness.wall->loadingOffers());
         QVERIFY(!ahead->isReady());
-        m_service.setOffersHeld(false);
+        m_service.setHeld(FakeOfferService::Offers, false);
         QTRY_COMPARE(harness.wall->offersList().size(), 30);
         QVERIFY(!harness.wall->loadingOffers());
         QCOMPARE(m_service.requestsTo("/offers.json"), 1);

@@ -98,7 +98,7 @@ private slots:
     {
         WallHarness harness;
         QVERIFY(harness.showFirstPage());
-        m_service.setOffersHeld(true);
+        m_service.setHeld(FakeOfferService::Offers, true);
         for (int i = 0; i < 5; ++i) {
             harness.scrollToEnd();
             QTRY_COMPARE(harness.cells().last()->row(), 29);
@@ -107,7 +107,7 @@ private slots:
             QTRY_COMPARE(harness.cells().first()->row(), 0);
         }
         QTRY_COMPARE(m_service.requestsTo("/offers.json"), 2);
-        m_service.setOffersHeld(false);
+        m_service.setHeld(FakeOfferService::Offers, false);
         QTRY_COMPARE(harness.wall->offersList().size(), 60);
         QCOMPARE(m_service.requestsTo("/offers.json"), 2);
     }
@@ -130,7 +130,7 @@ private slots:
     {
         WallHarness harness;
         QVERIFY(harness.showFirstPage());
-        m_service.setOffersDropped(true);
+        m_service.setDropped(FakeOfferService::Offers, true);
         QTest::ignoreMessage(QtInfoMsg, "offers request failed");
         harness.scrollToEnd();
         QTRY_VERIFY(harness.alert() != nullptr);
@@ -149,7 +149,7 @@ private slots:
 
         // The list still holds offers, so there is no inline retry.
         QVERIFY(!harness.find(QStringLiteral("retryButton"))->isVisible());
-        m_service.setOffersDropped(false);
+        m_service.setDropped(FakeOfferService::Offers, false);
         harness.scrollToStart();
         QTRY_VERIFY(harness.cells().first()->row() == 0);
         harness.scrollToEnd();
@@ -171,9 +171,9 @@ private slots:
             QuorvaRestAPI::sharedInstance()->setTransferTimeout(std::chrono::milliseconds(500));
             QTest::ignoreMessage(QtWarningMsg, "offers request timed out after 500 ms");
         } else {
-            m_service.setOffersDropped(true);
+            m_service.setDropped(FakeOfferService::Offers, true);
         }
-        m_service.setProfileDropped(true);
+        m_service.setDropped(FakeOfferService::Profile, true);
         QTest::ignoreMessage(QtInfoMsg, "offers request failed");
         QTest::ignoreMessage(QtInfoMsg, "Currency count request failed");
         WallHarness harness;
@@ -189,9 +189,9 @@ private slots:
         harness.click(harness.find(QStringLiteral("alertAction")));
         QTRY_VERIFY(harness.alert() == nullptr);
 
-        m_service.setOffersDropped(false);
+        m_service.setDropped(FakeOfferService::Offers, false);
         m_service.setOffersStalled(false);
-        m_service.setProfileDropped(false);
+        m_service.setDropped(FakeOfferService::Profile, false);
         const int before = m_service.requestsTo("/offers.json");
         harness.click(retry);
         QTRY_COMPARE(harness.wall->offersList().size(), 30);
@@ -205,7 +205,7 @@ private slots:
     // The title from the profile is checked where the wall loads; here its failure.
     void profileFailsSilently()
     {
-        m_service.setProfileDropped(true);
+        m_service.setDropped(FakeOfferService::Profile, true);
         QTest::ignoreMessage(QtInfoMsg, "Currency count request failed");
         LogCapture log;
         WallHarness harness;

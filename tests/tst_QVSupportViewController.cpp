@@ -230,12 +230,12 @@ private slots:
 
     void profileArrivingWhileOpenIsKeptForLater()
     {
-        m_service.setProfileHeld(true);
+        m_service.setHeld(FakeOfferService::Profile, true);
         SupportHarness harness;
         QVERIFY(harness.show());
         QVERIFY(harness.openSupport());
         QQuickItem *title = harness.find(QStringLiteral("headerTitle"));
-        m_service.setProfileHeld(false);
+        m_service.setHeld(FakeOfferService::Profile, false);
         QTRY_COMPARE(m_service.requestsTo("/details.json"), 1);
         finishPendingRequests(); // the profile's answer has been delivered
         QCOMPARE(title->property("text").toString(), QStringLiteral("Corvel Support"));
@@ -400,7 +400,7 @@ private slots:
 
     void failureShowsNothing()
     {
-        m_service.setHistoryDropped(true);
+        m_service.setDropped(FakeOfferService::History, true);
         SupportHarness harness;
         QVERIFY(harness.show());
         QVHistoryViewController *history = openHistory(harness);

@@ -1,5 +1,7 @@
 #include "FakeOfferService.h"
 
+#include <algorithm>
+
 #include <QtCore/QBuffer>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -12,13 +14,6 @@ using quorva::http::HttpRequest;
 using quorva::http::HttpResponse;
 
 namespace {
-HttpResponse dropped()
-{
-    HttpResponse response;
-    response.fault = HttpResponse::Fault::DropConnection;
-    return response;
-}
-
 std::string tinyPng()
 {
     QImage image(4, 4, QImage::Format_ARGB32);
@@ -37,85 +32,80 @@ FakeOfferService::FakeOfferService()
     const std::string png = tinyPng();
     m_server.respond([this, png](const HttpRequest &request) {
         const std::string &path = request.path;
-        auto endsWith = [&path](const std::string &suffix) {
-            return path.size() >= suffix.size() && path.compare(path.size() - suffix.size(), suffix.size(), suffix) == 0;
-        };
-        if (endsWith("/offers.json")) {
-            if (m_offersDropped)
-                return dropped();
-            if (m_offersStalled) {
-                HttpResponse stalled;
-                stalled.fault = HttpResponse::Fault::Stall;
-                return stalled;
-            }
-            const auto query = rawQueryPairs(request.query);
-            const int offset = query.value(QStringLiteral("offset")).toInt();
-            const int limit = query.value(QStringLiteral("limit")).toInt();
-            HttpResponse response;
-            response.releaseWhen = [this] { return !m_offersHeld; };
-            if (offset >= m_total) {
-                response.status = 204;
-                return response;
-            }
-            QJsonArray offers;
-            for (int i = offset; i < qMin(offset + limit, m_total.load()); ++i) {
-                offers.append(QJsonObject{
-                    {QStringLiteral("offer_id"), QString::number(i)},
-                    {QStringLiteral("name"), QStringLiteral("Offer %1").arg(i)},
-                    {QStringLiteral("description"), QStringLiteral("Do task %1").arg(i)},
-                    {QStringLiteral("currency_count"), m_payout.load() + i},
-                    {QStringLiteral("image_url"), QStringLiteral("//%1/img/%2.png").arg(QString::fromStdString(request.header("host"))).arg(i)},
-                    {QStringLiteral("click_url"), QStringLiteral("https://advertiser.example/click?offer=%1").arg(i)},
-                });
-            }
-            response.body = QJsonDocument(QJsonObject{{QStringLiteral("offers"), offers}}).toJson().toStdString();
-            return response;
-        }
-        if (endsWith("/details.json")) {
-            if (m_profileDropped)
-                return dropped();
-            HttpResponse profile = HttpResponse::json(200, R"({"profile":{"settings":{"currency":{"visible":true,"name":"Gems"}}}})");
-            profile.releaseWhen = [this] { return !m_profileHeld; };
-            return profile;
-        }
-        if (endsWith("/categories.json")) {
-            if (m_categoriesDropped)
-                return dropped();
-            return HttpResponse::json(200, R"([{"id":3,"name":"Games"},{"id":7,"name":"Travel"}])");
-        }
-        if (endsWith("/transactions.json")) {
-            if (m_historyDropped)
-                return dropped();
-            std::lock_guard lock(m_historyMutex);
-            HttpResponse history = HttpResponse::json(m_historyStatus, m_historyBody);
-            history.releaseWhen = [this] { return !m_historyHeld; };
-            return history;
-        }
-        if (endsWith("/tickets.json")) {
-            if (m_ticketsDropped)
-                return dropped();
-            HttpResponse created = HttpResponse::json(201, "{\"ticket_id\":" + std::to_string(m_nextTicketId++) + "}");
-            created.releaseWhen = [this] { return !m_ticketsHeld; };
-            return created;
-        }
         if (path.starts_with("/img/")) {
             HttpResponse picture;
             picture.contentType = "image/png";
             picture.body = png;
             return picture;
         }
-        return HttpResponse::json(404, R"({"error":"no such endpoint"})");
+        static const char *const suffixes[] = {"/offers.json", "/details.json", "/categories.json",
+                                               "/transactions.json", "/tickets.json"};
+        const auto endpoint = Endpoint(std::find_if(std::begin(suffixes), std::end(suffixes),
+                                                    [&path](const char *suffix) { return path.ends_with(suffix); })
+                                       - std::begin(suffixes));
+        if (endpoint == EndpointCount)
+            return HttpResponse::json(404, R"({"error":"no such endpoint"})");
+        HttpResponse response;
+        if (m_dropped[endpoint] || (endpoint == Offers && m_offersStalled)) {
+            response.fault = m_dropped[endpoint] ? HttpResponse::Fault::DropConnection : HttpResponse::Fault::Stall;
+            return response;
+        }
+        switch (endpoint) {
+        case Offers:
+            response = offersPage(request);
+            break;
+        case Profile:
+            response = HttpResponse::json(200, R"({"profile":{"settings":{"currency":{"visible":true,"name":"Gems"}}}})");
+            break;
+        case Categories:
+            response = HttpResponse::json(200, R"([{"id":3,"name":"Games"},{"id":7,"name":"Travel"}])");
+            break;
+        case History: {
+            std::lock_guard lock(m_historyMutex);
+            response = HttpResponse::json(m_historyStatus, m_historyBody);
+            break;
+        }
+        default:
+            response = HttpResponse::json(201, "{\"ticket_id\":" + std::to_string(m_nextTicketId++) + "}");
+            break;
+        }
+        response.releaseWhen = [this, endpoint] { return !m_held[endpoint]; };
+        return response;
     });
+}
+
+HttpResponse FakeOfferService::offersPage(const HttpRequest &request) const
+{
+    const auto query = rawQueryPairs(request.query);
+    const int offset = query.value(QStringLiteral("offset")).toInt();
+    const int limit = query.value(QStringLiteral("limit")).toInt();
+    HttpResponse response;
+    if (offset >= m_total) {
+        response.status = 204;
+        return response;
+    }
+    QJsonArray offers;
+    for (int i = offset; i < qMin(offset + limit, m_total.load()); ++i) {
+        offers.append(QJsonObject{
+            {QStringLiteral("offer_id"), QString::number(i)},
+            {QStringLiteral("name"), QStringLiteral("Offer %1").arg(i)},
+            {QStringLiteral("description"), QStringLiteral("Do task %1").arg(i)},
+            {QStringLiteral("currency_count"), m_payout.load() + i},
+            {QStringLiteral("image_url"), QStringLiteral("//%1/img/%2.png").arg(QString::fromStdString(request.header("host"))).arg(i)},
+            {QStringLiteral("click_url"), QStringLiteral("https://advertiser.example/click?offer=%1").arg(i)},
+        });
+    }
+    response.body = QJsonDocument(QJsonObject{{QStringLiteral("offers"), offers}}).toJson().toStdString();
+    return response;
 }
 
 void FakeOfferService::reset()
 {
     m_total = 95;
     m_payout = 1500;
-    for (std::atomic<bool> *knob : {&m_offersDropped, &m_offersStalled, &m_offersHeld, &m_profileDropped,
-                                    &m_categoriesDropped, &m_historyDropped, &m_historyHeld, &m_profileHeld,
-                                    &m_ticketsDropped, &m_ticketsHeld})
-        *knob = false;
+    for (int endpoint = 0; endpoint < EndpointCount; ++endpoint)
+        m_dropped[endpoint] = m_held[endpoint] = false;
+    m_offersStalled = false;
     setHistory(200, R"({"transactions":[]})");
     m_server.clearRequests();
     QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();

@@ -7,15 +7,17 @@
 #include <QtCore/QMap>
 #include <QtCore/QString>
 
+#include <array>
 #include <atomic>
-#include <chrono>
 #include <mutex>
 
 // A scripted offer service on loopback with knobs for the wall's tests: how many
-// offers exist, how slow the answers are, and which endpoints fail.
+// offers exist, and which endpoints drop their connections or hold their answers.
 class FakeOfferService
 {
 public:
+    enum Endpoint { Offers, Profile, Categories, History, Tickets, EndpointCount };
+
     // Its certificate authority is added to the client's.
     FakeOfferService();
 
@@ -27,23 +29,17 @@ public:
     QString baseAddress() const { return m_server.baseAddress(); }
 
     void setTotalOffers(int total) { m_total = total; }
-    // While held, offers answers wait; releasing lets every waiting answer go.
-    void setOffersHeld(bool held) { m_offersHeld = held; }
-    void setOffersDropped(bool dropped) { m_offersDropped = dropped; }
+    void setPayout(int payout) { m_payout = payout; }
+    // A dropped endpoint closes the connection instead of answering.
+    void setDropped(Endpoint endpoint, bool dropped) { m_dropped[endpoint] = dropped; }
+    // While held, an endpoint's answers wait; releasing lets every waiting answer go.
+    void setHeld(Endpoint endpoint, bool held) { m_held[endpoint] = held; }
     // Offers requests get no answer at all.
     void setOffersStalled(bool stalled) { m_offersStalled = stalled; }
-    void setProfileDropped(bool dropped) { m_profileDropped = dropped; }
-    void setProfileHeld(bool held) { m_profileHeld = held; }
-    void setCategoriesDropped(bool dropped) { m_categoriesDropped = dropped; }
-    void setPayout(int payout) { m_payout = payout; }
-    // The history's answer: a status and a JSON body; a dropped connection when dropped.
+    // The history's answer: a status and a JSON body.
     void setHistory(int status, const QByteArray &body);
-    void setHistoryDropped(bool dropped) { m_historyDropped = dropped; }
-    void setHistoryHeld(bool held) { m_historyHeld = held; }
-    // Ticket requests: answered 201 with a new id unless dropped; held while held.
-    void setTicketsDropped(bool dropped) { m_ticketsDropped = dropped; }
-    void setTicketsHeld(bool held) { m_ticketsHeld = held; }
-    // The JSON bodies of every ticket received so far, oldest first.
+    // The JSON bodies of every ticket received so far (each answered 201 with a new id),
+    // oldest first.
     QList<QJsonObject> tickets() const;
 
     // Query pairs of every offers request so far, oldest first.
@@ -51,19 +47,14 @@ public:
     int requestsTo(const std::string &pathSuffix) const;
 
 private:
+    quorva::http::HttpResponse offersPage(const quorva::http::HttpRequest &request) const;
+
     ScriptedServer m_server;
     std::atomic<int> m_total{95};
-    std::atomic<bool> m_offersDropped{false};
-    std::atomic<bool> m_offersStalled{false};
-    std::atomic<bool> m_offersHeld{false};
-    std::atomic<bool> m_profileDropped{false};
-    std::atomic<bool> m_categoriesDropped{false};
     std::atomic<int> m_payout{1500};
-    std::atomic<bool> m_historyDropped{false};
-    std::atomic<bool> m_historyHeld{false};
-    std::atomic<bool> m_profileHeld{false};
-    std::atomic<bool> m_ticketsDropped{false};
-    std::atomic<bool> m_ticketsHeld{false};
+    std::array<std::atomic<bool>, EndpointCount> m_dropped{};
+    std::array<std::atomic<bool>, EndpointCount> m_held{};
+    std::atomic<bool> m_offersStalled{false};
     std::atomic<int> m_nextTicketId{1};
     mutable std::mutex m_historyMutex;
     int m_historyStatus = 200;

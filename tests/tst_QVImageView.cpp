@@ -5,26 +5,12 @@
 #include "QVImageView.h"
 #include "QVImageCache.h"
 
-#include <QtCore/QBuffer>
 #include <QtGui/QImage>
 #include <QtQuick/QQuickWindow>
 #include <QtTest/QtTest>
 
 using quorva::http::HttpRequest;
 using quorva::http::HttpResponse;
-
-namespace {
-QByteArray pngOf(const QColor &color, int side = 8)
-{
-    QImage image(side, side, QImage::Format_ARGB32);
-    image.fill(color);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes;
-}
-} // namespace
 
 // Picture loading in a real window over loopback.
 class tst_QVImageView : public QObject

@@ -114,22 +114,12 @@ private slots:
         }
     }
 
-    void contrastRatioIsWcag_data()
-    {
-        QTest::addColumn<QColor>("a");
-        QTest::addColumn<QColor>("b");
-        QTest::addColumn<double>("ratio");
-        QTest::newRow("black on white") << QColor(Qt::black) << QColor(Qt::white) << 21.0;
-        QTest::newRow("white on the old payout green") << QColor(Qt::white) << QColor(0x22, 0xA3, 0x5A) << 3.25;
-    }
-
     void contrastRatioIsWcag()
     {
-        QFETCH(QColor, a);
-        QFETCH(QColor, b);
-        QFETCH(double, ratio);
-        QVERIFY2(qAbs(QVTheme::contrastRatio(a, b) - ratio) < 0.01, qPrintable(QString::number(QVTheme::contrastRatio(a, b))));
-        QCOMPARE(QVTheme::contrastRatio(a, b), QVTheme::contrastRatio(b, a));
+        const QColor green(0x22, 0xA3, 0x5A); // the old payout button
+        QCOMPARE(QVTheme::contrastRatio(Qt::black, Qt::white), 21.0);
+        QVERIFY2(qAbs(QVTheme::contrastRatio(Qt::white, green) - 3.25) < 0.01, qPrintable(QString::number(QVTheme::contrastRatio(Qt::white, green))));
+        QCOMPARE(QVTheme::contrastRatio(green, Qt::white), QVTheme::contrastRatio(Qt::white, green));
     }
 
     void colorFromHex_data()

@@ -167,14 +167,10 @@ private:
     // Visible items of a kind, anywhere in the window (popups included).
     QList<QQuickItem *> visibleItems(const std::function<bool(QQuickItem *)> &fits)
     {
-        QList<QQuickItem *> items{m_window.contentItem()}, found;
-        for (qsizetype i = 0; i < items.size(); ++i) {
-            QQuickItem *item = items[i];
-            if (!item->isVisible() || item->opacity() == 0)
-                continue;
-            if (fits(item) && item->width() > 0 && item->height() > 0)
+        QList<QQuickItem *> found;
+        for (QQuickItem *item : WallHarness::itemsBelow(m_window.contentItem())) {
+            if (item->isVisible() && item->opacity() > 0 && item->width() > 0 && item->height() > 0 && fits(item))
                 found.append(item);
-            items += item->childItems();
         }
         return found;
     }

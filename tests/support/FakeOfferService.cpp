@@ -2,34 +2,19 @@
 
 #include <algorithm>
 
-#include <QtCore/QBuffer>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
-#include <QtGui/QImage>
 
 #include <QuorvaMedia/QuorvaRestAPI.h>
 
 using quorva::http::HttpRequest;
 using quorva::http::HttpResponse;
 
-namespace {
-std::string tinyPng()
-{
-    QImage image(4, 4, QImage::Format_ARGB32);
-    image.fill(Qt::darkCyan);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes.toStdString();
-}
-} // namespace
-
 FakeOfferService::FakeOfferService()
 {
     QuorvaRestAPI::sharedInstance()->addCaCertificates(m_server.caCertificates());
-    const std::string png = tinyPng();
+    const std::string png = pngOf(Qt::darkCyan, 4).toStdString();
     m_server.respond([this, png](const HttpRequest &request) {
         const std::string &path = request.path;
         if (path.starts_with("/img/")) {

@@ -1,8 +1,10 @@
 #include "ScriptedServer.h"
 #include "Certificates.h"
 
+#include <QtCore/QBuffer>
 #include <QtCore/QMap>
 #include <QtCore/QStringList>
+#include <QtGui/QImage>
 
 using quorva::http::HttpRequest;
 using quorva::http::HttpResponse;
@@ -81,4 +83,15 @@ void ScriptedServer::clearRequests()
 {
     std::lock_guard lock(m_mutex);
     m_requests.clear();
+}
+
+QByteArray pngOf(const QColor &color, int side)
+{
+    QImage image(side, side, QImage::Format_ARGB32);
+    image.fill(color);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "PNG");
+    return bytes;
 }

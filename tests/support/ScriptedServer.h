@@ -5,6 +5,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QString>
+#include <QtGui/QColor>
 #include <QtNetwork/QSslCertificate>
 
 #include <functional>
@@ -42,6 +43,9 @@ private:
     std::unique_ptr<quorva::http::HttpServer> m_server;
     quint16 m_port = 0;
 };
+
+// A square PNG of one colour.
+QByteArray pngOf(const QColor &color, int side = 8);
 
 // Splits a raw query ("a=1&b=2") into its pairs, exactly as written on the wire.
 QMap<QString, QString> rawQueryPairs(const std::string &query);

@@ -6,17 +6,7 @@
 #include <QtTest/QtTest>
 
 namespace {
-// A history reply holding these rows, each "name:amount", newest first.
-QByteArray history(const QStringList &rows)
-{
-    QByteArray body = R"({"transactions":[)";
-    for (qsizetype i = 0; i < rows.size(); ++i) {
-        const QStringList parts = rows[i].split(QLatin1Char(':'));
-        body += (i ? "," : "") + QStringLiteral(R"({"offer_name":"%1","timestamp":"2026-03-04T17:22:05+0000","currency_adjustment":%2})")
-                                     .arg(parts[0], parts[1]).toUtf8();
-    }
-    return body + "]}";
-}
+const auto history = &FakeOfferService::historyOf;
 
 QStringList names(const QList<QVTransaction> &transactions)
 {
@@ -40,7 +30,7 @@ private slots:
     void init()
     {
         m_service.reset();
-        m_service.setHistory(200, history({QStringLiteral("Old:10")}));
+        m_service.setHistory(200, history(QStringLiteral("Old:10")));
     }
 
     void cleanup() { finishPendingRequests(); }
@@ -49,7 +39,7 @@ private slots:
     {
         QVCreditsWatcher watcher(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-9"));
         QSignalSpy credits(&watcher, &QVCreditsWatcher::creditsReceived);
-        m_service.setHistory(200, history({QStringLiteral("A:5"), QStringLiteral("B:7")}));
+        m_service.setHistory(200, history(QStringLiteral("A:5, B:7")));
         QVERIFY(poll(watcher));
         QVERIFY(watcher.hasBaseline());
         QCOMPARE(credits.count(), 0); // already credited before the watcher looked
@@ -57,8 +47,7 @@ private slots:
                  QStringLiteral("/corvel/api/publisher/1042/profile/7/user/user-9/transactions.json"));
 
         // New rows come in the reply's order; two identical rows are two credits.
-        m_service.setHistory(200, history({QStringLiteral("C:500"), QStringLiteral("C:500"), QStringLiteral("A:5"),
-                                           QStringLiteral("B:7")}));
+        m_service.setHistory(200, history(QStringLiteral("C:500, C:500, A:5, B:7")));
         QVERIFY(poll(watcher));
         QCOMPARE(credits.count(), 1);
         QCOMPARE(names(credits.takeFirst().at(0).value<QList<QVTransaction>>()),
@@ -66,10 +55,9 @@ private slots:
 
         // Nothing twice, and a row missing from one reply that comes back is not new.
         QVERIFY(poll(watcher));
-        m_service.setHistory(200, history({QStringLiteral("C:500"), QStringLiteral("B:7")}));
+        m_service.setHistory(200, history(QStringLiteral("C:500, B:7")));
         QVERIFY(poll(watcher));
-        m_service.setHistory(200, history({QStringLiteral("D:1"), QStringLiteral("C:500"), QStringLiteral("C:500"),
-                                           QStringLiteral("A:5"), QStringLiteral("B:7")}));
+        m_service.setHistory(200, history(QStringLiteral("D:1, C:500, C:500, A:5, B:7")));
         QVERIFY(poll(watcher));
         QCOMPARE(credits.count(), 1);
         QCOMPARE(names(credits.takeFirst().at(0).value<QList<QVTransaction>>()), QStringList({QStringLiteral("D:1")}));
@@ -84,7 +72,7 @@ private slots:
         QTest::addColumn<bool>("dropped");
         QTest::addColumn<bool>("counts");
 
-        const QByteArray withNew = history({QStringLiteral("New:50"), QStringLiteral("Old:10")});
+        const QByteArray withNew = history(QStringLiteral("New:50, Old:10"));
         QTest::newRow("no content") << 204 << QByteArray() << false << true;
         QTest::newRow("server error with a list") << 500 << withNew << false << false;
         QTest::newRow("not found") << 404 << withNew << false << false;
@@ -108,7 +96,7 @@ private slots:
 
         QVCreditsWatcher watching(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
         QSignalSpy credits(&watching, &QVCreditsWatcher::creditsReceived);
-        m_service.setHistory(200, history({QStringLiteral("Old:10")}));
+        m_service.setHistory(200, history(QStringLiteral("Old:10")));
         m_service.setDropped(FakeOfferService::History, false);
         QVERIFY(poll(watching));
         m_service.setHistory(status, body);
@@ -117,7 +105,7 @@ private slots:
         QCOMPARE(credits.count(), 0);
 
         // The next good answer reports the new row once, whatever the failed poll held.
-        m_service.setHistory(200, history({QStringLiteral("New:50"), QStringLiteral("Old:10")}));
+        m_service.setHistory(200, history(QStringLiteral("New:50, Old:10")));
         m_service.setDropped(FakeOfferService::History, false);
         QVERIFY(poll(watching));
         QCOMPARE(credits.count(), 1);

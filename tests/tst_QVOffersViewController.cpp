@@ -381,7 +381,7 @@ private slots:
 
     void creditsShowAsOneNotice()
     {
-        m_service.setHistory(200, R"({"transactions":[{"offer_name":"Old","currency_adjustment":10}]})");
+        m_service.setHistory(200, FakeOfferService::historyOf(QStringLiteral("Old:10")));
         QVCreditsWatcher watcher(QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"));
         watcher.checkNow();
         QTRY_VERIFY(watcher.hasBaseline());
@@ -396,8 +396,7 @@ private slots:
         QVERIFY(!notice->isVisible());
         QSignalSpy changed(harness.wall, &QVOffersViewController::creditNoticeChanged);
 
-        m_service.setHistory(200, R"({"transactions":[{"offer_name":"Sky Quest","currency_adjustment":1500},)"
-                                  R"({"offer_name":"Old","currency_adjustment":10}]})");
+        m_service.setHistory(200, FakeOfferService::historyOf(QStringLiteral("Sky Quest:1500, Old:10")));
         watcher.checkNow();
         QTRY_VERIFY(harness.wall->creditNoticeShown());
         QCOMPARE(harness.wall->creditNoticeText(), QStringLiteral("+1,500 Gems"));
@@ -411,10 +410,7 @@ private slots:
 
         // Credits that come while it shows add up (the next poll is one round trip, far
         // inside the notice's four seconds); a reversal is not a credit.
-        m_service.setHistory(200, R"({"transactions":[{"offer_name":"Reversal","currency_adjustment":-40},)"
-                                  R"({"offer_name":"Daily","currency_adjustment":250},)"
-                                  R"({"offer_name":"Sky Quest","currency_adjustment":1500},)"
-                                  R"({"offer_name":"Old","currency_adjustment":10}]})");
+        m_service.setHistory(200, FakeOfferService::historyOf(QStringLiteral("Reversal:-40, Daily:250, Sky Quest:1500, Old:10")));
         watcher.checkNow();
         QTRY_COMPARE(harness.wall->creditNoticeText(), QStringLiteral("+1,750 Gems"));
         QCOMPARE(harness.wall->creditNoticeDetail(), QStringLiteral("Sky Quest, Daily"));
@@ -427,11 +423,7 @@ private slots:
         harness.wall->onSupportPressed();
         QTRY_VERIFY(harness.wall->supportVC() && !harness.wall->isOverlayAnimating());
         auto *tabs = harness.wall->supportVC()->findChild<QQuickItem *>(QStringLiteral("segmentedControl"));
-        m_service.setHistory(200, R"({"transactions":[{"offer_name":"Bonus","currency_adjustment":20},)"
-                                  R"({"offer_name":"Reversal","currency_adjustment":-40},)"
-                                  R"({"offer_name":"Daily","currency_adjustment":250},)"
-                                  R"({"offer_name":"Sky Quest","currency_adjustment":1500},)"
-                                  R"({"offer_name":"Old","currency_adjustment":10}]})");
+        m_service.setHistory(200, FakeOfferService::historyOf(QStringLiteral("Bonus:20, Reversal:-40, Daily:250, Sky Quest:1500, Old:10")));
         watcher.checkNow();
         QTRY_VERIFY(harness.wall->creditNoticeShown());
         QCOMPARE(harness.wall->creditNoticeText(), QStringLiteral("+20 Gems"));
@@ -445,12 +437,7 @@ private slots:
         // A wall off screen shows nothing.
         QTRY_VERIFY_WITH_TIMEOUT(!harness.wall->creditNoticeShown(), QVOffersViewController::kCreditNoticeMs + kPatienceMs);
         harness.wall->setVisible(false);
-        m_service.setHistory(200, R"({"transactions":[{"offer_name":"Hidden","currency_adjustment":5},)"
-                                  R"({"offer_name":"Bonus","currency_adjustment":20},)"
-                                  R"({"offer_name":"Reversal","currency_adjustment":-40},)"
-                                  R"({"offer_name":"Daily","currency_adjustment":250},)"
-                                  R"({"offer_name":"Sky Quest","currency_adjustment":1500},)"
-                                  R"({"offer_name":"Old","currency_adjustment":10}]})");
+        m_service.setHistory(200, FakeOfferService::historyOf(QStringLiteral("Hidden:5, Bonus:20, Reversal:-40, Daily:250, Sky Quest:1500, Old:10")));
         QSignalSpy credits(&watcher, &QVCreditsWatcher::creditsReceived);
         watcher.checkNow();
         QTRY_COMPARE(credits.count(), 1);

@@ -114,37 +114,17 @@ private slots:
         QTest::addColumn<bool>("featured");
         QTest::addColumn<QStringList>("targeting"); // gender, ageRange, subId2, subId3, subId4
         QTest::addColumn<bool>("withProvider");
-        QTest::addColumn<Pairs>("expected");
-
-        const Pairs base{{"subid1", "user3"}, {"limit", "30"}, {"offset", "60"}, {"sort_order", "desc"},
-                         {"device", "00000000-0000-0000-0000-000000000000"}, {"limit_tracking", "0"},
-                         {"sort_by", "popularity"}};
-        const QStringList none{QString(), QString(), QString(), QString(), QString()};
-        QTest::newRow("defaults") << QString() << QString() << false << none << false << base;
-
-        Pairs featured = base;
-        featured.insert("featured_only", "1");
-        featured.insert("sort_by", "payout");
-        QTest::newRow("featured and sort") << "payout" << QString() << true << none << false << featured;
-
-        Pairs category = base;
-        category.insert("category_id", "7");
-        QTest::newRow("category") << QString() << "7" << false << none << false << category;
-
-        Pairs targeted = base;
-        targeted.insert("gender", "f");
-        targeted.insert("age_range_id", "3");
-        targeted.insert("subid2", "s2");
-        targeted.insert("subid3", "s3");
-        targeted.insert("subid4", "");
+        QTest::addColumn<Pairs>("changed"); // the pairs that differ from the defaults' query
+        const QStringList none(5, QString());
+        QTest::newRow("defaults") << QString() << QString() << false << none << false << Pairs();
+        QTest::newRow("featured and sort") << "payout" << QString() << true << none << false
+                                           << Pairs{{"featured_only", "1"}, {"sort_by", "payout"}};
+        QTest::newRow("category") << QString() << "7" << false << none << false << Pairs{{"category_id", "7"}};
         QTest::newRow("targeting, empty subid4 still sent")
-            << QString() << QString() << false << QStringList{"f", "3", "s2", "s3", ""} << false << targeted;
-
-        Pairs tracked = base;
-        tracked.insert("device", "6F9619FF-8B86-D011-B42D-00CF4FC964FF");
-        tracked.insert("limit_tracking", "1");
-        QTest::newRow("provider: tracking allowed is sent as 1")
-            << QString() << QString() << false << none << true << tracked;
+            << QString() << QString() << false << QStringList{"f", "3", "s2", "s3", ""} << false
+            << Pairs{{"gender", "f"}, {"age_range_id", "3"}, {"subid2", "s2"}, {"subid3", "s3"}, {"subid4", ""}};
+        QTest::newRow("provider: tracking allowed is sent as 1") << QString() << QString() << false << none << true
+            << Pairs{{"device", "6F9619FF-8B86-D011-B42D-00CF4FC964FF"}, {"limit_tracking", "1"}};
     }
 
     void offersQuery()
@@ -154,7 +134,11 @@ private slots:
         QFETCH(bool, featured);
         QFETCH(QStringList, targeting);
         QFETCH(bool, withProvider);
-        QFETCH(Pairs, expected);
+        QFETCH(Pairs, changed);
+        Pairs expected{{"subid1", "user3"}, {"limit", "30"}, {"offset", "60"}, {"sort_order", "desc"},
+                       {"device", "00000000-0000-0000-0000-000000000000"}, {"limit_tracking", "0"},
+                       {"sort_by", "popularity"}};
+        expected.insert(changed);
 
         QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
         api->setGender(targeting[0]);

@@ -84,6 +84,18 @@ HttpResponse FakeOfferService::offersPage(const HttpRequest &request) const
     return response;
 }
 
+QByteArray FakeOfferService::historyOf(const QString &rows)
+{
+    QJsonArray transactions;
+    for (const QString &row : rows.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        const qsizetype colon = row.lastIndexOf(QLatin1Char(':'));
+        transactions.append(QJsonObject{{"offer_name", row.left(colon).trimmed()},
+                                        {"timestamp", "2026-03-04T17:22:05+0000"},
+                                        {"currency_adjustment", row.mid(colon + 1).toDouble()}});
+    }
+    return QJsonDocument(QJsonObject{{"transactions", transactions}}).toJson(QJsonDocument::Compact);
+}
+
 void FakeOfferService::reset()
 {
     m_total = 95;

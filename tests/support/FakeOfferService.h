@@ -38,6 +38,8 @@ public:
     void setOffersStalled(bool stalled) { m_offersStalled = stalled; }
     // The history's answer: a status and a JSON body.
     void setHistory(int status, const QByteArray &body);
+    // A history reply of these rows, "name:amount" separated by commas, newest first.
+    static QByteArray historyOf(const QString &rows);
     // The JSON bodies of every ticket received so far (each answered 201 with a new id),
     // oldest first.
     QList<QJsonObject> tickets() const;

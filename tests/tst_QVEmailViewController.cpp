@@ -363,10 +363,9 @@ private slots:
 
         // Cleared, but the layout stays that of the state it was sent in.
         QCOMPARE(form->activeUISate(), state);
-        QCOMPARE(text(form->enterInfoView()->nameTextField()), QString());
-        QCOMPARE(text(form->enterInfoView()->emailTextField()), QString());
-        QCOMPARE(text(form->enterCommentView()->commentInputField()), QString());
-        QCOMPARE(text(form->enterOfferTitleView()->offerNameField()), QString());
+        for (QQuickItem *field : {form->enterInfoView()->nameTextField(), form->enterInfoView()->emailTextField(),
+                                  form->enterCommentView()->commentInputField(), form->enterOfferTitleView()->offerNameField()})
+            QCOMPARE(text(field), QString());
         QCOMPARE(text(form->offerDateCompletedView()->dateBtn()), QStringLiteral("MM/DD/YY"));
         QCOMPARE(form->enterCommentView()->counterText(), QStringLiteral("200"));
         QVERIFY(!checked(form->chooseSubjectView(), "notCreditCheckmark") && !checked(form->chooseSubjectView(), "reportCheckmark")

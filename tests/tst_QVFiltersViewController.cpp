@@ -218,6 +218,8 @@ private slots:
         QCOMPARE(m_service.requestsTo("/offers.json"), 2);
     }
 
+    // Where the popover sits, what closes it and what a turn does are the support
+    // centre's popover's rules too, checked there; here what is the filter panel's own.
     void tabletPopover()
     {
         QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Tablet);
@@ -232,33 +234,17 @@ private slots:
         QObject *popover = harness.wall->findChild<QObject *>(QStringLiteral("filterPopover"));
         QVERIFY(popover);
         QTRY_VERIFY(popover->property("opened").toBool());
-        QCOMPARE(popover->property("closePolicy").toInt(), 0); // a tap outside no longer closes it
-        QCOMPARE(popover->property("width").toReal(), 360.0);
-        QCOMPARE(popover->property("height").toReal(), 768 * 0.65);
-        QQuickItem *filterButton = harness.find(QStringLiteral("filterBtn"));
-        const QRectF button = filterButton->mapRectToItem(harness.wall, filterButton->boundingRect());
-        QCOMPARE(popover->property("x").toReal() + popover->property("arrowX").toReal(), button.center().x());
-        QCOMPARE(popover->property("y").toReal(), button.bottom());
         QCOMPARE(panel->topMargin(), QVFiltersViewController::kTabletTopMargin);
         QVERIFY(!harness.wall->isFiltersViewOpen());
         QVERIFY(harness.find(QStringLiteral("closeBtn"))->isVisible());
         QCOMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
 
-        QTest::mouseClick(harness.window.get(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 500));
-        QVERIFY(popover->property("opened").toBool()); // a press outside is handled as it arrives
-
-        // A size transition (rotation) takes it away.
-        harness.resize({768, 1024});
-        QTRY_VERIFY(!popover->property("visible").toBool());
-        QTRY_VERIFY(harness.wall->filterVC() == nullptr);
-
-        panel = openPanel(harness);
-        QTRY_VERIFY(popover->property("opened").toBool());
         harness.click(rowsOf(panel).value(QStringLiteral("Credit Delay")));
         harness.click(panel->findChild<QQuickItem *>(QStringLiteral("saveButton")));
         QTRY_VERIFY(!popover->property("visible").toBool());
         QTRY_COMPARE(m_service.offersQueries().last().value("sort_by"), QStringLiteral("credit_delay"));
         QCOMPARE(m_service.offersQueries().last().value("offset"), QStringLiteral("0"));
+        QTRY_VERIFY(harness.wall->filterVC() == nullptr);
         // No phone overlay was ever opened, so the restored header text is empty.
         QCOMPARE(title->property("text").toString(), QString());
     }

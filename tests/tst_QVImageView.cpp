@@ -9,6 +9,8 @@
 #include <QtQuick/QQuickWindow>
 #include <QtTest/QtTest>
 
+#include <map>
+
 using quorva::http::HttpRequest;
 using quorva::http::HttpResponse;
 
@@ -24,16 +26,13 @@ private slots:
         m_window.resize(200, 200);
         m_window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&m_window));
-        const QByteArray red = pngOf(Qt::red);
-        const QByteArray blue = pngOf(Qt::blue);
-        const QByteArray large = pngOf(Qt::green, 400);
-        m_server.respond([red, blue, large](const HttpRequest &request) {
-            if (request.path.starts_with("/large"))
-                return HttpResponse::json(200, large.toStdString());
-            if (request.path.starts_with("/red"))
-                return HttpResponse::json(200, red.toStdString());
-            if (request.path.starts_with("/blue"))
-                return HttpResponse::json(200, blue.toStdString());
+        const std::map<std::string, QByteArray> pictures{
+            {"/large", pngOf(Qt::green, 400)}, {"/red", pngOf(Qt::red)}, {"/blue", pngOf(Qt::blue)}};
+        m_server.respond([pictures](const HttpRequest &request) {
+            for (const auto &[folder, picture] : pictures) {
+                if (request.path.starts_with(folder))
+                    return HttpResponse::json(200, picture.toStdString());
+            }
             if (request.path.starts_with("/page"))
                 return HttpResponse::json(404, "<html>not a picture</html>");
             HttpResponse dropped;

@@ -14,13 +14,13 @@ private slots:
     void init()
     {
         m_service.reset();
+        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
     }
 
     void cleanup() { finishPendingRequests(); }
 
     void typingOnTheKeysKeepsTheFieldAndSendInSight()
     {
-        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
         SupportHarness harness;
         QQuickItem *panel = showWithKeyboard(harness);
         QVERIFY(panel);
@@ -57,7 +57,6 @@ private slots:
     void tabletKeepsItsOwnRules()
     {
         QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Tablet);
-        const auto phone = qScopeGuard([] { QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone); });
         SupportHarness harness(QSize(1024, 768));
         QQuickItem *panel = showWithKeyboard(harness);
         QVERIFY(panel);

@@ -8,7 +8,6 @@
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 
-
 class tst_QVOfferWallPreload : public QObject
 {
     Q_OBJECT

@@ -88,9 +88,8 @@ private slots:
         QCOMPARE(support->findChildren<QVFAQViewController *>().size(), 1);
         QCOMPARE(m_service.requestsTo("/transactions.json"), 1);
         // Every tab sits 50 points below the top and fills the rest.
-        for (QQuickItem *tab : {static_cast<QQuickItem *>(support->faqViewController()),
-                                static_cast<QQuickItem *>(support->historyViewController()),
-                                static_cast<QQuickItem *>(support->emailViewController())}) {
+        for (QQuickItem *tab : QList<QQuickItem *>{support->faqViewController(), support->historyViewController(),
+                                                    support->emailViewController()}) {
             QCOMPARE(tab->position(), QPointF(0, 50));
             QCOMPARE(tab->size(), QSizeF(support->width(), support->height() - 50));
         }

@@ -23,13 +23,8 @@ using Pairs = QMap<QString, QString>;
 
 Q_DECLARE_METATYPE(HttpResponse::Fault)
 
-namespace {
-const char *kindName(int kind)
-{
-    static const char *names[] = {"offers", "profile", "categories", "history", "ticket"};
-    return names[kind];
-}
-} // namespace
+// The requests' names, as the client's log lines give them, by Kind.
+const char *const kKindNames[] = {"offers", "profile", "categories", "history", "ticket"};
 
 class tst_QuorvaRestAPI : public QObject
 {
@@ -326,7 +321,7 @@ private slots:
         for (int kind = int(Kind::Offers); kind <= int(Kind::Ticket); ++kind) {
             for (int status : statuses) {
                 const QByteArray location = status == 301 ? "https://elsewhere.example/" : "";
-                QTest::addRow("%s %d%s", kindName(kind), status, location.isEmpty() ? "" : " with Location")
+                QTest::addRow("%s %d%s", kKindNames[kind], status, location.isEmpty() ? "" : " with Location")
                     << kind << status << location;
             }
         }
@@ -361,10 +356,10 @@ private slots:
         QTest::addColumn<QString>("warning"); // null: the reply is taken
         using Fault = HttpResponse::Fault;
         for (int kind = int(Kind::Offers); kind <= int(Kind::Ticket); ++kind) {
-            QTest::addRow("%s, dropped before the answer", kindName(kind)) << kind << Fault::DropConnection << 0 << QString("");
-            QTest::addRow("%s, body cut short", kindName(kind)) << kind << Fault::TruncateBody << 0 << QString("");
+            QTest::addRow("%s, dropped before the answer", kKindNames[kind]) << kind << Fault::DropConnection << 0 << QString("");
+            QTest::addRow("%s, body cut short", kKindNames[kind]) << kind << Fault::TruncateBody << 0 << QString("");
         }
-        const auto timedOut = [](Kind kind) { return QStringLiteral("%1 request timed out after 400 ms").arg(kindName(int(kind))); };
+        const auto timedOut = [](Kind kind) { return QStringLiteral("%1 request timed out after 400 ms").arg(kKindNames[int(kind)]); };
         QTest::newRow("offers, never answered") << int(Kind::Offers) << Fault::Stall << 0 << timedOut(Kind::Offers);
         QTest::newRow("offers, stalled mid-body") << int(Kind::Offers) << Fault::StallMidBody << 0 << timedOut(Kind::Offers);
         QTest::newRow("profile, never answered") << int(Kind::Profile) << Fault::Stall << 0 << timedOut(Kind::Profile);
@@ -562,11 +557,9 @@ private:
         api->setPubId(QStringLiteral("pub1"));
         api->setCorvelId(QStringLiteral("wall2"));
         api->setSubId1(QStringLiteral("user3"));
-        api->setGender(QString());
-        api->setAgeRange(QString());
-        api->setSubId2(QString());
-        api->setSubId3(QString());
-        api->setSubId4(QString());
+        for (auto set : {&QuorvaRestAPI::setGender, &QuorvaRestAPI::setAgeRange, &QuorvaRestAPI::setSubId2,
+                         &QuorvaRestAPI::setSubId3, &QuorvaRestAPI::setSubId4})
+            (api->*set)(QString());
         api->setAdvertisingInfoProvider(nullptr);
     }
 

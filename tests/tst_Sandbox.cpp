@@ -63,41 +63,38 @@ private slots:
 
     void badInputIsRejectedAndNothingStored_data()
     {
-        QTest::addColumn<QByteArray>("verb");
         QTest::addColumn<QString>("path");
         QTest::addColumn<QByteArray>("body");
         QTest::addColumn<int>("status");
         const QString offers = QStringLiteral("/corvel/api/publisher/1042/profile/7/offers.json");
         const QString tickets = QStringLiteral("/corvel/api/publisher/1042/profile/7/user/u9/tickets.json");
-        QTest::newRow("unknown publisher") << QByteArray("GET") << "/corvel/api/publisher/nobody/profile/7/offers.json?subid1=u" << QByteArray() << 404;
-        QTest::newRow("missing subid1") << QByteArray("GET") << offers + "?limit=30" << QByteArray() << 400;
-        QTest::newRow("limit not a number") << QByteArray("GET") << offers + "?subid1=u&limit=lots" << QByteArray() << 400;
-        QTest::newRow("unknown sort") << QByteArray("GET") << offers + "?subid1=u&sort_by=random" << QByteArray() << 400;
-        QTest::newRow("ticket not json") << QByteArray("POST") << tickets << QByteArray("name=Ann") << 400;
-        QTest::newRow("ticket is a list") << QByteArray("POST") << tickets << QByteArray("[]") << 400;
-        QTest::newRow("ticket lacks email") << QByteArray("POST") << tickets << QByteArray(R"({"name":"Ann","subject_id":"1"})") << 422;
-        QTest::newRow("ticket for unknown wall") << QByteArray("POST") << "/corvel/api/publisher/1042/profile/99/user/u/tickets.json"
+        QTest::newRow("unknown publisher") << "/corvel/api/publisher/nobody/profile/7/offers.json?subid1=u" << QByteArray() << 404;
+        QTest::newRow("missing subid1") << offers + "?limit=30" << QByteArray() << 400;
+        QTest::newRow("limit not a number") << offers + "?subid1=u&limit=lots" << QByteArray() << 400;
+        QTest::newRow("unknown sort") << offers + "?subid1=u&sort_by=random" << QByteArray() << 400;
+        QTest::newRow("ticket not json") << tickets << QByteArray("name=Ann") << 400;
+        QTest::newRow("ticket is a list") << tickets << QByteArray("[]") << 400;
+        QTest::newRow("ticket lacks email") << tickets << QByteArray(R"({"name":"Ann","subject_id":"1"})") << 422;
+        QTest::newRow("ticket for unknown wall") << "/corvel/api/publisher/1042/profile/99/user/u/tickets.json"
                                                  << QByteArray(R"({"name":"A","email":"a@b.c","subject_id":"1"})") << 404;
-        QTest::newRow("no such endpoint") << QByteArray("GET") << "/corvel/nothing.json" << QByteArray() << 404;
-        QTest::newRow("picture id past any number") << QByteArray("GET") << "/img/99999999999999999999.png" << QByteArray() << 404;
-        QTest::newRow("click id past any number") << QByteArray("GET") << "/click/99999999999999999999999999999999" << QByteArray() << 404;
+        QTest::newRow("no such endpoint") << "/corvel/nothing.json" << QByteArray() << 404;
+        QTest::newRow("picture id past any number") << "/img/99999999999999999999.png" << QByteArray() << 404;
+        QTest::newRow("click id past any number") << "/click/99999999999999999999999999999999" << QByteArray() << 404;
         const QString credits = QStringLiteral("/sandbox/publisher/1042/profile/7/user/u9/credits.json");
-        QTest::newRow("credit not json") << QByteArray("POST") << credits << QByteArray("500") << 400;
-        QTest::newRow("credit without a name") << QByteArray("POST") << credits << QByteArray(R"({"currency_adjustment":5})") << 400;
-        QTest::newRow("credit amount as text") << QByteArray("POST") << credits
-                                               << QByteArray(R"({"offer_name":"A","currency_adjustment":"5"})") << 400;
-        QTest::newRow("credit for unknown wall") << QByteArray("POST") << "/sandbox/publisher/1042/profile/99/user/u9/credits.json"
+        QTest::newRow("credit not json") << credits << QByteArray("500") << 400;
+        QTest::newRow("credit without a name") << credits << QByteArray(R"({"currency_adjustment":5})") << 400;
+        QTest::newRow("credit amount as text") << credits << QByteArray(R"({"offer_name":"A","currency_adjustment":"5"})") << 400;
+        QTest::newRow("credit for unknown wall") << "/sandbox/publisher/1042/profile/99/user/u9/credits.json"
                                                  << QByteArray(R"({"offer_name":"A","currency_adjustment":5})") << 404;
     }
 
     void badInputIsRejectedAndNothingStored()
     {
-        QFETCH(QByteArray, verb);
         QFETCH(QString, path);
-        QFETCH(QByteArray, body);
+        QFETCH(QByteArray, body); // a GET without one, a POST with it
         QFETCH(int, status);
         const int ticketsBefore = raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray().size();
-        const RawReply reply = raw(verb, path, body);
+        const RawReply reply = raw(body.isEmpty() ? "GET" : "POST", path, body);
         QCOMPARE(reply.status, status);
         QVERIFY2(!reply.json()[QStringLiteral("error")].toString().isEmpty(), reply.body.constData());
         QCOMPARE(raw("GET", QStringLiteral("/sandbox/tickets.json")).json()[QStringLiteral("tickets")].toArray().size(), ticketsBefore);

@@ -15,15 +15,12 @@ public:
         click(find(QStringLiteral("supportBtn")));
         const bool settled = QTest::qWaitFor([this] { return wall->supportVC() && !wall->isOverlayAnimating(); },
                                              kPatienceMs)
-            && (!QVDevice::isTablet() || QTest::qWaitFor([this] { return popoverOpened(); }, kPatienceMs))
+            && (!QVDevice::isTablet() || QTest::qWaitFor([this] {
+                   QObject *popover = wall->findChild<QObject *>(QStringLiteral("supportPopover"));
+                   return popover && popover->property("opened").toBool();
+               }, kPatienceMs))
             && nextFrame();
         return settled ? wall->supportVC() : nullptr;
-    }
-
-    bool popoverOpened() const
-    {
-        QObject *popover = wall->findChild<QObject *>(QStringLiteral("supportPopover"));
-        return popover && popover->property("opened").toBool();
     }
 
     static void showTab(QVSupportViewController *support, int index)

@@ -69,7 +69,6 @@ public:
     // Waits until a frame that began after this call is on screen.
     bool nextFrame() { return waitForNextFrame(window.get()); }
 
-
     void resize(QSize size)
     {
         window->resize(size);

@@ -11,14 +11,8 @@ namespace {
 QMap<QString, QVFilterUICollectionViewCell *> rowsOf(QVFiltersViewController *panel)
 {
     QMap<QString, QVFilterUICollectionViewCell *> rows;
-    auto *list = panel->findChild<QQuickItem *>(QStringLiteral("collectionView"));
-    auto *content = list->property("contentItem").value<QQuickItem *>();
-    for (QQuickItem *child : content->childItems()) {
-        if (auto *cell = qobject_cast<QVFilterUICollectionViewCell *>(child); cell && cell->isVisible()) {
-            auto *name = cell->findChild<QQuickItem *>(QStringLiteral("name"));
-            rows.insert(name->property("text").toString(), cell);
-        }
-    }
+    for (QVFilterUICollectionViewCell *cell : WallHarness::listRows<QVFilterUICollectionViewCell>(panel))
+        rows.insert(cell->findChild<QQuickItem *>(QStringLiteral("name"))->property("text").toString(), cell);
     return rows;
 }
 
@@ -36,12 +30,8 @@ QStringList checkedRows(QVFiltersViewController *panel)
 QStringList headerTitles(QVFiltersViewController *panel)
 {
     QStringList titles;
-    auto *list = panel->findChild<QQuickItem *>(QStringLiteral("collectionView"));
-    auto *content = list->property("contentItem").value<QQuickItem *>();
-    for (QQuickItem *child : content->childItems()) {
-        if (auto *header = qobject_cast<QVFilterUICollectionViewHeader *>(child); header && header->isVisible())
-            titles << header->findChild<QQuickItem *>(QStringLiteral("name"))->property("text").toString();
-    }
+    for (QQuickItem *header : WallHarness::listRows<QVFilterUICollectionViewHeader>(panel))
+        titles << header->findChild<QQuickItem *>(QStringLiteral("name"))->property("text").toString();
     titles.sort();
     return titles;
 }

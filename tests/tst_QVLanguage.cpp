@@ -276,12 +276,7 @@ private slots:
         QVERIFY(support);
         VERIFY_TEXTS_READ_WELL(supportHarness);
         SupportHarness::showTab(support, QVSupportViewController::HistoryTab);
-        const auto historyRowShown = [support] {
-            const QList<QQuickItem *> items = WallHarness::itemsBelow(support);
-            return std::any_of(items.cbegin(), items.cend(),
-                               [](QQuickItem *i) { return i->objectName() == QLatin1String("offernameLabel"); });
-        };
-        QTRY_VERIFY(historyRowShown());
+        QTRY_VERIFY(!WallHarness::listRows<QVTransactionCollectionViewCell>(support->historyViewController()).isEmpty());
         VERIFY_TEXTS_READ_WELL(supportHarness);
         SupportHarness::showTab(support, QVSupportViewController::FormTab);
         QVEmailViewController *form = support->emailViewController();

@@ -7,15 +7,14 @@
 #include <QtCore/QTemporaryDir>
 
 namespace {
-// The FAQ cells on screen by row.
+// The FAQ cells on screen by row, closed or open.
 QMap<int, QQuickItem *> rowsOf(QVFAQViewController *faq)
 {
     QMap<int, QQuickItem *> rows;
-    auto *list = faq->findChild<QQuickItem *>(QStringLiteral("collectionView"));
-    for (QQuickItem *cell : list->property("contentItem").value<QQuickItem *>()->childItems()) {
-        if (cell->isVisible() && (qobject_cast<QVQuestionCollectionViewCell *>(cell) || qobject_cast<QVQACollectionViewCell *>(cell)))
-            rows.insert(cell->property("row").toInt(), cell);
-    }
+    for (QQuickItem *cell : WallHarness::listRows<QVQuestionCollectionViewCell>(faq))
+        rows.insert(cell->property("row").toInt(), cell);
+    for (QQuickItem *cell : WallHarness::listRows<QVQACollectionViewCell>(faq))
+        rows.insert(cell->property("row").toInt(), cell);
     return rows;
 }
 
@@ -24,16 +23,9 @@ bool isOpen(QQuickItem *cell)
     return qobject_cast<QVQACollectionViewCell *>(cell) != nullptr;
 }
 
-QList<QQuickItem *> rowsOf(QVHistoryViewController *history)
+QList<QVTransactionCollectionViewCell *> rowsOf(QVHistoryViewController *history)
 {
-    QList<QQuickItem *> rows;
-    auto *list = history->findChild<QQuickItem *>(QStringLiteral("collectionView"));
-    for (QQuickItem *cell : list->property("contentItem").value<QQuickItem *>()->childItems()) {
-        if (cell->isVisible() && qobject_cast<QVTransactionCollectionViewCell *>(cell))
-            rows.append(cell);
-    }
-    std::sort(rows.begin(), rows.end(), [](QQuickItem *a, QQuickItem *b) { return a->y() < b->y(); });
-    return rows;
+    return WallHarness::listRows<QVTransactionCollectionViewCell>(history);
 }
 
 QString label(QQuickItem *cell, const char *name)
@@ -354,7 +346,7 @@ private slots:
         QVHistoryViewController *history = openHistory(harness);
         QVERIFY(history);
         QTRY_COMPARE(rowsOf(history).size(), 3);
-        const QList<QQuickItem *> rows = rowsOf(history);
+        const auto rows = rowsOf(history);
         QCOMPARE(label(rows[0], "offernameLabel"), QStringLiteral("Dragon Realms"));
         QCOMPARE(label(rows[0], "dateLabel"), QStringLiteral("03/04/2015 05:22:05"));
         QCOMPARE(label(rows[0], "payoutLabel"), QStringLiteral("+1,234.5"));

@@ -93,6 +93,20 @@ public:
         return items;
     }
 
+    // The visible delegates of type T in owner's list, top to bottom.
+    template <typename T>
+    static QList<T *> listRows(QQuickItem *owner)
+    {
+        QList<T *> rows;
+        auto *list = owner->findChild<QQuickItem *>(QStringLiteral("collectionView"));
+        for (QQuickItem *child : list->property("contentItem").value<QQuickItem *>()->childItems()) {
+            if (auto *row = qobject_cast<T *>(child); row && row->isVisible())
+                rows.append(row);
+        }
+        std::sort(rows.begin(), rows.end(), [](T *a, T *b) { return a->y() < b->y(); });
+        return rows;
+    }
+
     // Offer cells currently laid out in the list (rows hold one or two), in offer order.
     QList<QVOfferUICollectionViewCell *> cells() const
     {

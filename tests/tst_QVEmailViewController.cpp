@@ -46,7 +46,6 @@ private slots:
     void statesFollowTheChoosers()
     {
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVEmailViewController *form = harness.openForm();
         QVERIFY(form);
         // Start: name and e-mail, then the subject; the send button is there but hidden.
@@ -147,7 +146,6 @@ private slots:
         QFETCH(QString, message);
         QFETCH(QString, marked);
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVEmailViewController *form = formInState(harness, state);
         QVERIFY(form);
         form->enterInfoView()->nameTextField()->setProperty("text", fields[0]);
@@ -235,7 +233,6 @@ private slots:
     void commentCounterWrapsPastTheLimit()
     {
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVEmailViewController *form = formInState(harness, 5);
         QVERIFY(form);
         QVEnterCommentView *comment = form->enterCommentView();
@@ -258,7 +255,6 @@ private slots:
     void errorLooksComeBackOnTheFirstEdit()
     {
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVEmailViewController *form = formInState(harness, 4);
         QVERIFY(form);
         QVEnterInformationView *info = form->enterInfoView();
@@ -329,7 +325,6 @@ private slots:
         QFETCH(int, state);
         QFETCH(QString, subject);
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVEmailViewController *form = formInState(harness, state);
         QVERIFY(form);
         form->enterInfoView()->nameTextField()->setProperty("text", QStringLiteral("Ann Example"));
@@ -389,7 +384,6 @@ private slots:
     void twoQuickPressesFileTwoTickets()
     {
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVEmailViewController *form = formInState(harness, 5);
         QVERIFY(form);
         form->enterInfoView()->nameTextField()->setProperty("text", QStringLiteral("Ann"));
@@ -408,7 +402,6 @@ private slots:
     {
         m_service.setDropped(FakeOfferService::Tickets, true);
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVEmailViewController *form = formInState(harness, 2);
         QVERIFY(form);
         const QStringList typed{QStringLiteral("Ann"), QStringLiteral("ann@example.com"), QStringLiteral("Dragon"),
@@ -437,7 +430,6 @@ private slots:
     void datePanel()
     {
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVEmailViewController *form = formInState(harness, 2);
         QVERIFY(form);
         QQuickItem *panel = form->datePickerView();
@@ -482,7 +474,6 @@ private slots:
     void draggingUpDismissesTheKeyboard()
     {
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVEmailViewController *form = formInState(harness, 2);
         QVERIFY(form);
         QQuickItem *scroll = form->scrollView();
@@ -500,7 +491,6 @@ private slots:
     void keyboardAloneFilesATicket()
     {
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVEmailViewController *form = harness.openForm();
         QVERIFY(form);
         QQuickWindow *window = harness.window.get();

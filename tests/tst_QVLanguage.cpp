@@ -271,7 +271,6 @@ private slots:
 
         // Every tab of the support centre, and the form in each of its states.
         SupportHarness supportHarness(size);
-        QVERIFY(supportHarness.show());
         QVSupportViewController *support = supportHarness.openSupport();
         QVERIFY(support);
         VERIFY_TEXTS_READ_WELL(supportHarness);

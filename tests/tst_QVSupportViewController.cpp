@@ -50,7 +50,6 @@ private slots:
     void tabsAreBuiltLazilyAndHistoryIsAskedOnce()
     {
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVSupportViewController *support = harness.openSupport();
         QVERIFY(support);
         // The FAQ opens first; history and form do not exist yet, nor does a history request.
@@ -90,7 +89,6 @@ private slots:
     void errorStripFollowsTheFormAndTheTabs()
     {
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVEmailViewController *form = harness.openForm();
         QVERIFY(form);
         QVSupportViewController *support = harness.wall->supportVC();
@@ -148,7 +146,6 @@ private slots:
     void phonePanelsCloseEachOther()
     {
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVERIFY(harness.openSupport());
         // Filter while support is open only closes support.
         harness.click(harness.find(QStringLiteral("filterBtn")));
@@ -223,7 +220,6 @@ private slots:
     {
         m_service.setHeld(FakeOfferService::Profile, true);
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVERIFY(harness.openSupport());
         QQuickItem *title = harness.find(QStringLiteral("headerTitle"));
         m_service.setHeld(FakeOfferService::Profile, false);
@@ -280,7 +276,6 @@ private slots:
         const auto shipped = quorva::detail::readFaqPropertyList(QVFAQViewController::faqsResourcePath());
         QVERIFY(shipped.size() >= 12);
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVSupportViewController *support = harness.openSupport();
         QVERIFY(support);
         QVFAQViewController *faq = support->faqViewController();
@@ -322,7 +317,6 @@ private slots:
     void rowsFollowTheListWidth()
     {
         SupportHarness harness({390, 780});
-        QVERIFY(harness.show());
         QVSupportViewController *support = harness.openSupport();
         QVERIFY(support);
         QVFAQViewController *faq = support->faqViewController();
@@ -342,7 +336,6 @@ private slots:
             {"offer_name":"Refund","timestamp":"2015-03-05T01:00:00+0200","currency_adjustment":-5},
             {"offer_name":"Odd date","timestamp":"yesterday","currency_adjustment":40}]})");
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVHistoryViewController *history = openHistory(harness);
         QVERIFY(history);
         QTRY_COMPARE(rowsOf(history).size(), 3);
@@ -386,7 +379,6 @@ private slots:
         if (status == 204)
             QTest::ignoreMessage(QtInfoMsg, "No transactions in history");
         SupportHarness harness;
-        QVERIFY(harness.show());
         QVHistoryViewController *history = openHistory(harness);
         QVERIFY(history);
         QQuickItem *empty = history->findChild<QQuickItem *>(QStringLiteral("noOffersCompleted"));

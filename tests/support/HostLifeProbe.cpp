@@ -1,6 +1,7 @@
 // A host's whole life: an application, a wall on screen with its pictures over TLS, and
 // the end of the program. Whatever Qt prints on the way goes to standard error.
 #include "SandboxProcess.h"
+#include "WallHarness.h"
 
 #include <QuorvaMedia/QuorvaMedia.h>
 
@@ -9,19 +10,6 @@
 #include <QtTest/QTest>
 
 #include <memory>
-
-namespace {
-bool anyPictureShown(QQuickItem *root)
-{
-    QList<QQuickItem *> items{root};
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        if (items[i]->inherits("QVImageView") && items[i]->property("hasImage").toBool())
-            return true;
-        items += items[i]->childItems();
-    }
-    return false;
-}
-} // namespace
 
 int main(int argc, char **argv)
 {
@@ -38,7 +26,8 @@ int main(int argc, char **argv)
     wall->setParentItem(window.contentItem());
     wall->setSize(window.size());
     window.show();
-    if (!QTest::qWaitFor([&] { return anyPictureShown(wall.get()); }, 30000))
+    const auto pictureShown = [](QQuickItem *item) { return item->inherits("QVImageView") && item->property("hasImage").toBool(); };
+    if (!QTest::qWaitFor([&] { return std::ranges::any_of(WallHarness::itemsBelow(wall.get()), pictureShown); }, 30000))
         return 3;
     return 0;
 }

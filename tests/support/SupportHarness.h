@@ -9,9 +9,12 @@ class SupportHarness : public WallHarness
 public:
     using WallHarness::WallHarness;
 
-    // Presses the support button and waits until the centre has settled in place.
+    // Shows the wall if it is not yet, presses the support button and waits until the
+    // centre has settled in place.
     QVSupportViewController *openSupport()
     {
+        if (!window->isVisible() && !show())
+            return nullptr;
         click(find(QStringLiteral("supportBtn")));
         const bool settled = QTest::qWaitFor([this] { return wall->supportVC() && !wall->isOverlayAnimating(); },
                                              kPatienceMs)

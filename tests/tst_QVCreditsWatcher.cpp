@@ -1,5 +1,4 @@
-#include "Patience.h"
-#include "FakeOfferService.h"
+#include "ServiceSuite.h"
 
 #include <QuorvaMedia/QVCreditsWatcher.h>
 
@@ -17,7 +16,7 @@ QStringList names(const QList<QVTransaction> &transactions)
 }
 } // namespace
 
-class tst_QVCreditsWatcher : public QObject
+class tst_QVCreditsWatcher : public ServiceSuite
 {
     Q_OBJECT
 
@@ -29,11 +28,9 @@ private slots:
 
     void init()
     {
-        m_service.reset();
+        startTest();
         m_service.setHistory(200, history(QStringLiteral("Old:10")));
     }
-
-    void cleanup() { finishPendingRequests(); }
 
     void reportsWhatIsNewSinceTheBaselineOnce()
     {
@@ -160,8 +157,6 @@ private:
         watcher.checkNow();
         return QTest::qWaitFor([&] { return !watcher.isChecking(); }, kPatienceMs);
     }
-
-    FakeOfferService m_service;
 };
 
 QTEST_GUILESS_MAIN(tst_QVCreditsWatcher)

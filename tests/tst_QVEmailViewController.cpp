@@ -1,5 +1,4 @@
-#include "Patience.h"
-#include "FakeOfferService.h"
+#include "ServiceSuite.h"
 #include "SupportHarness.h"
 #include "QVNotificationCenter.h"
 #include "TicketFormCheck.h"
@@ -30,19 +29,11 @@ QObject *alertOf(QQuickItem *item)
 }
 } // namespace
 
-class tst_QVEmailViewController : public QObject
+class tst_QVEmailViewController : public ServiceSuite
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_service.reset();
-        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-    }
-
-    void cleanup() { finishPendingRequests(); }
-
     void statesFollowTheChoosers()
     {
         SupportHarness harness;
@@ -538,8 +529,6 @@ private:
         }
         return form->activeUISate() == state ? form : nullptr;
     }
-
-    FakeOfferService m_service;
 };
 
 QTEST_MAIN(tst_QVEmailViewController)

@@ -1,5 +1,4 @@
-#include "Patience.h"
-#include "FakeOfferService.h"
+#include "ServiceSuite.h"
 #include "WallHarness.h"
 
 #include <QtCore/QPropertyAnimation>
@@ -46,19 +45,16 @@ bool isWithin(QQuickItem *item, QQuickItem *ancestor)
 }
 } // namespace
 
-class tst_QVFiltersViewController : public QObject
+class tst_QVFiltersViewController : public ServiceSuite
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_service.reset();
-        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
+        startTest();
         QVFiltersViewController::resetAllCategories();
     }
-
-    void cleanup() { finishPendingRequests(); }
 
     void phonePanelDropsInUnderTheHeader()
     {
@@ -383,8 +379,6 @@ private:
             && QTest::qWaitFor([&] { return rowsOf(panel).size() >= 4; }, kPatienceMs);
         return settled ? panel : nullptr;
     }
-
-    FakeOfferService m_service;
 };
 
 QTEST_MAIN(tst_QVFiltersViewController)

@@ -1,24 +1,15 @@
-#include "Patience.h"
-#include "FakeOfferService.h"
+#include "ServiceSuite.h"
 #include "SupportHarness.h"
 
 #include "KeyboardPanel.h"
 
 // The ticket form with Qt's on-screen keyboard, added by the host at the bottom of its
 // window the way a phone shows its keyboard, and typed on key by key.
-class tst_QVKeyboard : public QObject
+class tst_QVKeyboard : public ServiceSuite
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_service.reset();
-        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-    }
-
-    void cleanup() { finishPendingRequests(); }
-
     void typingOnTheKeysKeepsTheFieldAndSendInSight()
     {
         SupportHarness harness;
@@ -140,7 +131,6 @@ private:
         return item->mapToScene(QPointF(0, item->height())).y();
     }
 
-    FakeOfferService m_service;
     QPointingDevice *m_touchScreen = QTest::createTouchDevice();
 };
 

@@ -1,6 +1,5 @@
 #include "QVImageView.h"
-#include "Patience.h"
-#include "FakeOfferService.h"
+#include "ServiceSuite.h"
 #include "QVLanguage.h"
 #include "SupportHarness.h"
 
@@ -108,17 +107,11 @@ QStringList badTexts(QQuickWindow *window, bool mirrored)
         QVERIFY2(bad.isEmpty(), qPrintable(bad.join(QStringLiteral(" | "))));                              \
     } while (false)
 
-class tst_QVLanguage : public QObject
+class tst_QVLanguage : public ServiceSuite
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-        m_service.reset();
-    }
-
     void cleanup()
     {
         finishPendingRequests();
@@ -309,9 +302,6 @@ private slots:
         form->showFailureAlert();
         VERIFY_TEXTS_READ_WELL(supportHarness);
     }
-
-private:
-    FakeOfferService m_service;
 };
 
 QTEST_MAIN(tst_QVLanguage)

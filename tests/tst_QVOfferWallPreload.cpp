@@ -1,5 +1,4 @@
-#include "Patience.h"
-#include "FakeOfferService.h"
+#include "ServiceSuite.h"
 #include "OfferWallPreloadState.h"
 #include "WallHarness.h"
 
@@ -8,19 +7,11 @@
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 
-class tst_QVOfferWallPreload : public QObject
+class tst_QVOfferWallPreload : public ServiceSuite
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_service.reset();
-        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-    }
-
-    void cleanup() { finishPendingRequests(); }
-
     void takenOnceWithoutSendingItsRequestsAgain()
     {
         QVOfferWallPreload *ahead = preload();
@@ -247,7 +238,6 @@ private:
     // QML hosts, written after the class: moc does not read multi-line raw strings.
     static const char kPreloadingDocument[];
     static const char kWallDocument[];
-    FakeOfferService m_service;
 };
 
 // A QML host that sets the address and preloads when its document completes.

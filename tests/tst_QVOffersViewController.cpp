@@ -1,7 +1,6 @@
 #include "QVImageCache.h"
 #include "QVImageView.h"
-#include "Patience.h"
-#include "FakeOfferService.h"
+#include "ServiceSuite.h"
 #include "LogCapture.h"
 #include "WallHarness.h"
 
@@ -35,19 +34,16 @@ bool drawnIn(const QImage &frame, QPointF at, const QColor &colour)
 }
 } // namespace
 
-class tst_QVOffersViewController : public QObject
+class tst_QVOffersViewController : public ServiceSuite
 {
     Q_OBJECT
 
 private slots:
     void init()
     {
-        m_service.reset();
-        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
+        startTest();
         QVImageCache::sharedImageCache()->clear();
     }
-
-    void cleanup() { finishPendingRequests(); }
 
     void loadsWhenFirstShownWithTargetingApplied()
     {
@@ -512,9 +508,6 @@ private slots:
         const QString printed = QString::fromLocal8Bit(host.readAllStandardError()).trimmed();
         QVERIFY2(printed.isEmpty(), qPrintable(printed));
     }
-
-private:
-    FakeOfferService m_service;
 };
 
 QTEST_MAIN(tst_QVOffersViewController)

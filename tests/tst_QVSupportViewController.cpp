@@ -1,5 +1,4 @@
-#include "Patience.h"
-#include "FakeOfferService.h"
+#include "ServiceSuite.h"
 #include "FaqPropertyList.h"
 #include "QVNotificationCenter.h"
 #include "SupportHarness.h"
@@ -34,19 +33,11 @@ QString label(QQuickItem *cell, const char *name)
 }
 } // namespace
 
-class tst_QVSupportViewController : public QObject
+class tst_QVSupportViewController : public ServiceSuite
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        m_service.reset();
-        QVDevice::setUserInterfaceIdiom(QVDevice::Idiom::Phone);
-    }
-
-    void cleanup() { finishPendingRequests(); }
-
     void tabsAreBuiltLazilyAndHistoryIsAskedOnce()
     {
         SupportHarness harness;
@@ -399,8 +390,6 @@ private:
         QVHistoryViewController *history = support->historyViewController();
         return QTest::qWaitFor([history] { return !history->isLoading(); }, kPatienceMs) ? history : nullptr;
     }
-
-    FakeOfferService m_service;
 };
 
 QTEST_MAIN(tst_QVSupportViewController)

@@ -485,11 +485,9 @@ private slots:
         QFETCH(QString, missing);
         QFETCH(QString, message);
         QProcess probe;
-        probe.setProcessEnvironment([] {
-            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-            environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("quorva.info=false"));
-            return environment;
-        }());
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("quorva.info=false"));
+        probe.setProcessEnvironment(environment);
         probe.start(QStringLiteral(QUORVA_REQUIRED_VALUE_PROBE), {missing});
         QVERIFY(probe.waitForFinished(30000));
         const QString errors = QString::fromLocal8Bit(probe.readAllStandardError());

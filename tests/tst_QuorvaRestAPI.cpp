@@ -1,7 +1,7 @@
 #include "Patience.h"
 #include "CallbackProbe.h"
 #include "LogCapture.h"
-#include "ScriptedServer.h"
+#include "FakeOfferService.h"
 
 #include <QuorvaMedia/QuorvaMedia.h>
 #include "ServiceTimestamp.h"
@@ -110,7 +110,7 @@ private slots:
         QTest::addColumn<QStringList>("targeting"); // gender, ageRange, subId2, subId3, subId4
         QTest::addColumn<bool>("withProvider");
         QTest::addColumn<Pairs>("changed"); // the pairs that differ from the defaults' query
-        const QStringList none(5, QString());
+        const QStringList none;
         QTest::newRow("defaults") << QString() << QString() << false << none << false << Pairs();
         QTest::newRow("featured and sort") << "payout" << QString() << true << none << false
                                            << Pairs{{"featured_only", "1"}, {"sort_by", "payout"}};
@@ -136,11 +136,7 @@ private slots:
         expected.insert(changed);
 
         QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
-        api->setGender(targeting[0]);
-        api->setAgeRange(targeting[1]);
-        api->setSubId2(targeting[2]);
-        api->setSubId3(targeting[3]);
-        api->setSubId4(targeting[4]);
+        setTargeting(api, targeting);
         if (withProvider) {
             api->setAdvertisingInfoProvider([] {
                 return QVAdvertisingInfo{QStringLiteral("{6f9619ff-8b86-d011-b42d-00cf4fc964ff}"), true};
@@ -555,9 +551,7 @@ private:
         api->setPubId(QStringLiteral("pub1"));
         api->setCorvelId(QStringLiteral("wall2"));
         api->setSubId1(QStringLiteral("user3"));
-        for (auto set : {&QuorvaRestAPI::setGender, &QuorvaRestAPI::setAgeRange, &QuorvaRestAPI::setSubId2,
-                         &QuorvaRestAPI::setSubId3, &QuorvaRestAPI::setSubId4})
-            (api->*set)(QString());
+        setTargeting(api);
         api->setAdvertisingInfoProvider(nullptr);
     }
 

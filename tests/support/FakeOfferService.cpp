@@ -96,6 +96,14 @@ QByteArray FakeOfferService::historyOf(const QString &rows)
     return QJsonDocument(QJsonObject{{"transactions", transactions}}).toJson(QJsonDocument::Compact);
 }
 
+void setTargeting(QuorvaRestAPI *api, const QStringList &values)
+{
+    int index = 0;
+    for (auto set : {&QuorvaRestAPI::setGender, &QuorvaRestAPI::setAgeRange, &QuorvaRestAPI::setSubId2,
+                     &QuorvaRestAPI::setSubId3, &QuorvaRestAPI::setSubId4})
+        (api->*set)(values.value(index++));
+}
+
 void FakeOfferService::reset()
 {
     m_total = 95;
@@ -107,9 +115,7 @@ void FakeOfferService::reset()
     m_server.clearRequests();
     QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
     api->setServiceBaseAddress(baseAddress());
-    for (auto set : {&QuorvaRestAPI::setGender, &QuorvaRestAPI::setAgeRange, &QuorvaRestAPI::setSubId2,
-                     &QuorvaRestAPI::setSubId3, &QuorvaRestAPI::setSubId4})
-        (api->*set)(QString());
+    setTargeting(api);
     api->setTransferTimeout(QuorvaRestAPI::kDefaultTransferTimeout);
 }
 

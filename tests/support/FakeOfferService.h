@@ -5,11 +5,16 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QJsonObject>
 #include <QtCore/QMap>
-#include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <array>
 #include <atomic>
 #include <mutex>
+
+class QuorvaRestAPI;
+// Sets the client's targeting (gender, age range, sub ids 2 to 4, in that order); those not
+// given are cleared, so that the shared client carries no test's values into the next.
+void setTargeting(QuorvaRestAPI *api, const QStringList &values = {});
 
 // A scripted offer service on loopback with knobs for the wall's tests: how many
 // offers exist, and which endpoints drop their connections or hold their answers.

@@ -3,6 +3,8 @@
 
 #include "KeyboardPanel.h"
 
+#include <QtQuickTest/quicktest.h>
+
 // The ticket form with Qt's on-screen keyboard, added by the host at the bottom of its
 // window the way a phone shows its keyboard, and typed on key by key.
 class tst_QVKeyboard : public ServiceSuite
@@ -87,9 +89,13 @@ private:
         return nullptr;
     }
 
-    // A finger on the key that types text: the keyboard reads touches.
+    // A finger on the key that types text, where the key is drawn: the keyboard reads
+    // touches, and its rows are laid out again (a word's candidates come and go) only
+    // when the next frame is polished.
     bool pressKey(SupportHarness &harness, QQuickItem *panel, const QString &text)
     {
+        if (!QQuickTest::qWaitForPolish(harness.window.get(), kPatienceMs))
+            return false;
         QQuickItem *item = key(panel, "text", text);
         if (!item)
             return false;

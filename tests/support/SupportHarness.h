@@ -41,14 +41,15 @@ public:
         return nextFrame() ? support->emailViewController() : nullptr;
     }
 
-    // Brings item into view inside the form's scroll view, then clicks it.
+    // Brings item into view inside the form's scroll view, then clicks it where it is
+    // drawn. A frame that never comes fails the test; the click then does not go in.
     void clickInForm(QVEmailViewController *form, QQuickItem *item)
     {
         QQuickItem *scroll = form->scrollView();
         const QRectF inContent = item->mapRectToItem(form->contentView(), item->boundingRect());
         const qreal maxY = qMax<qreal>(0, scroll->property("contentHeight").toReal() - scroll->height());
         scroll->setProperty("contentY", qBound<qreal>(0, inContent.center().y() - scroll->height() / 2, maxY));
-        nextFrame(); // pieces just added are laid out by then
+        QVERIFY2(nextFrame(), "no frame was drawn after scrolling the form");
         click(item);
     }
 

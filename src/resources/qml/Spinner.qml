@@ -1,8 +1,10 @@
 import QtQuick
 import QtQuick.Controls.impl
 
-// A turning ring while something loads; the turning runs on the render thread.
+// A turning ring while something loads; the turning runs on the render thread. It turns
+// only while the ring itself is visible: a hidden one would ask for frames for ever.
 ColorImage {
+    id: ring
     width: 36
     height: 36
     source: "icons/spinner.svg"
@@ -13,6 +15,6 @@ ColorImage {
         to: 360
         duration: 900
         loops: Animation.Infinite
-        running: parent.visible
+        running: ring.visible
     }
 }

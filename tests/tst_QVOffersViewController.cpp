@@ -88,6 +88,22 @@ private slots:
         QVERIFY(!harness.wall->loadingOffers()); // showing the last cell asked for nothing
         QCOMPARE(m_service.requestsTo("/offers.json"), 4);
         QVERIFY(!harness.find(QStringLiteral("noOffersLabel"))->isVisible());
+
+        // At rest nothing turns: a hidden loading ring that kept turning would have every
+        // tap wait for the compositor's next frame, and drain a phone's battery.
+        QTRY_COMPARE(runningAnimations(harness.wall), QStringList());
+    }
+
+    static QStringList runningAnimations(QQuickItem *root)
+    {
+        QStringList running;
+        for (QQuickItem *item : WallHarness::itemsBelow(root)) {
+            for (QObject *child : item->children()) {
+                if (child->inherits("QQuickAbstractAnimation") && child->property("running").toBool())
+                    running.append(QString::fromLatin1(item->metaObject()->className()));
+            }
+        }
+        return running;
     }
 
     void lastCellShownOftenSendsOneRequest()

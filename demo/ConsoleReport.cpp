@@ -5,6 +5,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QMap>
 
 #include <cstdio>
 #include <functional>
@@ -82,6 +83,42 @@ int printConsoleReport(SandboxProcess &sandbox)
             }, failed("offers", done));
         });
     }
+    // The same wall in an app for children: what the sandbox leaves out for a child.
+    auto everyOffer = [&](const QVPrivacy &privacy) {
+        api->setPrivacy(privacy);
+        QStringList names;
+        bool more = true;
+        for (quint64 offset = 0; more && offset < 3000; offset += 30) {
+            if (!await([&](auto done) {
+                    api->fetchOffers(offset, {}, {}, false, [&, done](const QList<QVOffer> &offers, bool m) {
+                        for (const QVOffer &offer : offers)
+                            names.append(offer.offerName());
+                        more = m;
+                        done();
+                    }, failed("offers", [&more, done] { more = false; done(); }));
+                }))
+                break;
+        }
+        api->setPrivacy({});
+        return names;
+    };
+    QVPrivacy child;
+    child.childDirected = QVPrivacy::Answer::Yes;
+    const QStringList forEveryone = everyOffer({});
+    const QStringList forAChild = everyOffer(child);
+    QMap<QString, int> gone;
+    for (const QString &name : forEveryone)
+        gone[name] += forAChild.contains(name) ? 0 : 1;
+    QStringList goneNames;
+    for (auto it = gone.cbegin(); it != gone.cend(); ++it) {
+        if (it.value() > 0)
+            goneNames << QStringLiteral("%1 (%2)").arg(it.key()).arg(it.value());
+    }
+    std::printf("a wall for a child (coppa=1, no advertising identifier, no targeting): %lld of %lld offers; gone: %s\n",
+                static_cast<long long>(forAChild.size()), static_cast<long long>(forEveryone.size()),
+                goneNames.isEmpty() ? "nothing" : qPrintable(goneNames.join(QStringLiteral(", "))));
+    failures += forAChild.isEmpty() || goneNames.isEmpty() ? 1 : 0;
+
     await([&](auto done) {
         api->fetchCategories([done](const QList<QVCategory> &categories) {
             QStringList names;

@@ -36,6 +36,7 @@ int ScreenshotTour::run()
     }
     setLook({});
     shootFormWithKeyboard(camera);
+    shootWallForAChild(camera);
     return camera.failures() == 0 ? 0 : 1;
 }
 
@@ -111,4 +112,19 @@ void ScreenshotTour::renderScreens(Camera &camera)
         });
         api->setServiceBaseAddress(m_sandbox.baseAddress());
     }
+}
+
+void ScreenshotTour::shootWallForAChild(Camera &camera)
+{
+    // An app for children says so: the sandbox leaves out what is not for them.
+    QVPrivacy child;
+    child.childDirected = QVPrivacy::Answer::Yes;
+    QuorvaRestAPI::sharedInstance()->setPrivacy(child);
+    {
+        auto scene = openWall(QStringLiteral("7"), QVDevice::Idiom::Phone);
+        camera.shoot(*scene, QStringLiteral("phone-wall-child"), [&] {
+            return !scene->wall->offersList().isEmpty() && picturesShown(scene->wall);
+        });
+    }
+    QuorvaRestAPI::sharedInstance()->setPrivacy({});
 }

@@ -14,6 +14,7 @@ public:
 
 private:
     void renderScreens(tour::Camera &camera);
+    void shootWallForAChild(tour::Camera &camera);
 
     SandboxProcess &m_sandbox;
     QString m_directory;

@@ -63,6 +63,33 @@ std::optional<std::int64_t> integer(const std::string &text)
     return value;
 }
 
+// What an offers request said of the user's privacy, for the developer watching the log.
+std::string privacySummary(const std::map<std::string, std::string> &items)
+{
+    std::string line = "  privacy:";
+    bool any = false;
+    for (const std::string key : {"gdpr", "gdpr_consent", "us_privacy", "gpp", "gpp_sid", "coppa"}) {
+        const auto it = items.find(key);
+        if (it == items.end())
+            continue;
+        // The long consent strings by their size; the short flags as they came, printable.
+        std::string value = key == "gdpr_consent" || key == "gpp" ? std::to_string(it->second.size()) + " bytes"
+                                                                   : it->second.substr(0, 32);
+        std::replace_if(value.begin(), value.end(), [](unsigned char c) { return c < 0x20 || c >= 0x7f; }, '?');
+        line += " " + key + "=" + value;
+        any = true;
+    }
+    if (!any)
+        line += " none";
+    if (const auto it = items.find("coppa"); it != items.end() && it->second == "1")
+        line += " (a child: casino offers left out)";
+    const auto device = items.find("device");
+    const bool anonymous = device == items.end() || device->second == "00000000-0000-0000-0000-000000000000";
+    line += anonymous ? "; no advertising identifier" : "; advertising identifier sent";
+    line += items.count("gender") || items.count("age_range_id") ? ", targeting sent" : ", no targeting";
+    return line;
+}
+
 // Pictures are served by this same server; their addresses are scheme-relative.
 std::string pictureAddress(const HttpRequest &request, std::int64_t offerId)
 {
@@ -233,6 +260,9 @@ HttpResponse SandboxService::offers(const HttpRequest &request, const std::strin
             return error(400, "category_id must be a number");
     }
     query.featuredOnly = item("featured_only").value_or("0") == "1";
+    query.forChildren = item("coppa").value_or("0") == "1";
+    if (m_log)
+        m_log(privacySummary(items));
 
     const std::vector<OfferRow> rows = m_store.offers(*profileRow, query);
     if (rows.empty())

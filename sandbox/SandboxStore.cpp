@@ -194,6 +194,8 @@ std::vector<OfferRow> SandboxStore::offers(const ProfileRow &profile, const Offe
         sql += " AND category_id = ?";
     if (query.featuredOnly)
         sql += " AND featured = 1";
+    if (query.forChildren)
+        sql += " AND category_id <> " + std::to_string(kAdultCategory);
     sql += std::string(" ORDER BY ") + orderClause(query.sortBy, query.descending) + " LIMIT ? OFFSET ?";
     Statement s(m_db, sql);
     s.bind(profile.pubId).bind(profile.corvelId);

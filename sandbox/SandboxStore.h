@@ -34,6 +34,7 @@ struct OfferQuery
     bool descending = true;
     std::optional<std::int64_t> categoryId;
     bool featuredOnly = false;
+    bool forChildren = false; // leaves out the category that is not for children
     int limit = 30;
     std::int64_t offset = 0;
 };

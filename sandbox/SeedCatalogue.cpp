@@ -24,13 +24,13 @@ struct App
     int categoryId;
 };
 
-const std::array<CategoryRow, 7> kCategories{{
+const std::array<CategoryRow, 8> kCategories{{
     {1, "Games"}, {2, "Shopping"}, {3, "Finance"}, {4, "Entertainment"},
-    {5, "Health & Fitness"}, {6, "Surveys"}, {7, "Travel"},
+    {5, "Health & Fitness"}, {6, "Surveys"}, {7, "Travel"}, {kAdultCategory, "Casino"},
 }};
 
 constexpr std::array<App, 28> kApps{{
-    {"Dragon Realms", 1}, {"Spin City Slots", 1}, {"Galaxy Miners", 1}, {"Puzzle Harbor", 1},
+    {"Dragon Realms", 1}, {"Spin City Slots", int(kAdultCategory)}, {"Galaxy Miners", 1}, {"Puzzle Harbor", 1},
     {"Block Kingdom", 1}, {"Turbo Racers", 1}, {"Farm Valley", 1}, {"Word Garden", 1},
     {"CashCart", 2}, {"SnapStyle", 2}, {"Fresh Bites", 2}, {"Pet Haven", 2},
     {"PocketBank", 3}, {"Budget Buddy", 3}, {"CoinNest", 3},
@@ -40,7 +40,7 @@ constexpr std::array<App, 28> kApps{{
     {"Sky Voyage", 7}, {"Hotel Hopper", 7}, {"Rail Pass Go", 7},
 }};
 
-const std::array<std::array<const char *, 3>, 7> kTasks{{
+const std::array<std::array<const char *, 3>, 8> kTasks{{
     {{"Install and reach level %d", "Win %d matches in the arena", "Complete the tutorial and %d quests"}},
     {{"Sign up and place your first order over $%d", "Create an account and save %d items", "Make a purchase of $%d or more"}},
     {{"Open an account and deposit $%d", "Link a card and make %d payments", "Set up a savings goal of $%d"}},
@@ -48,6 +48,7 @@ const std::array<std::array<const char *, 3>, 7> kTasks{{
     {{"Log %d workouts in your first week", "Complete a %d-day streak", "Track %d meals"}},
     {{"Answer a %d-question survey", "Complete your profile and %d polls", "Share your opinion in %d surveys"}},
     {{"Book a stay of %d nights", "Plan a trip with %d stops", "Search %d destinations and book one"}},
+    {{"Spin the reels %d times", "Reach VIP level %d", "Deposit $%d and play a round"}},
 }};
 
 void addOffers(Catalogue &catalogue, const char *pub, const char *wall, int count, std::int64_t &nextId,

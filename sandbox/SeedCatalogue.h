@@ -41,6 +41,10 @@ inline constexpr int kDemoWallOffers = 320;
 inline constexpr int kLargeWallOffers = 3000;
 
 // Always the same catalogue: generated from a fixed seed.
+// The category whose offers are not for children (a casino): an offers request marked
+// coppa=1 leaves them out.
+inline constexpr std::int64_t kAdultCategory = 8;
+
 Catalogue seedCatalogue();
 
 } // namespace quorva::sandbox

@@ -5,6 +5,7 @@
 #include <QuorvaMedia/quorvamedia_global.h>
 #include <QuorvaMedia/QuorvaMediaVersion.h>
 #include <QuorvaMedia/QVAdvertisingInfo.h>
+#include <QuorvaMedia/QVPrivacy.h>
 #include <QuorvaMedia/QVOffer.h>
 #include <QuorvaMedia/QVProfile.h>
 #include <QuorvaMedia/QVTransaction.h>

@@ -7,11 +7,11 @@
 
 /// The version of the headers a host is built with, as a number that compares:
 /// 0xMMNNPP for major, minor and patch.
-#define QUORVAMEDIA_VERSION 0x020100
+#define QUORVAMEDIA_VERSION 0x020200
 /// The version of the headers, as text.
-#define QUORVAMEDIA_VERSION_STR "2.1.0"
+#define QUORVAMEDIA_VERSION_STR "2.2.0"
 /// A version as #QUORVAMEDIA_VERSION writes it, for tests such as
-/// `#if QUORVAMEDIA_VERSION >= QUORVAMEDIA_VERSION_CHECK(2, 1, 0)`.
+/// `#if QUORVAMEDIA_VERSION >= QUORVAMEDIA_VERSION_CHECK(2, 2, 0)`.
 #define QUORVAMEDIA_VERSION_CHECK(major, minor, patch) (((major) << 16) | ((minor) << 8) | (patch))
 
 extern "C" {

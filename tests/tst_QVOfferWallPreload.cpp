@@ -7,6 +7,8 @@
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 
+using Pairs = QMap<QString, QString>;
+
 class tst_QVOfferWallPreload : public ServiceSuite
 {
     Q_OBJECT
@@ -62,14 +64,18 @@ private slots:
     void wallLoadsAsBeforeWhenThePreloadCannotServe_data()
     {
         QTest::addColumn<QString>("reason");
-        QTest::newRow("targeting changed since") << QStringLiteral("targeting");
-        QTest::newRow("older than its time") << QStringLiteral("stale");
-        QTest::newRow("its offers failed") << QStringLiteral("failed");
+        QTest::addColumn<QString>("sentPair"); // what the wall's own first request carries
+        QTest::newRow("targeting changed since") << QStringLiteral("targeting") << "gender=f";
+        QTest::newRow("the user is a child since") << QStringLiteral("child") << "coppa=1";
+        QTest::newRow("consent refused since") << QStringLiteral("consent") << "gdpr=1";
+        QTest::newRow("older than its time") << QStringLiteral("stale") << QString();
+        QTest::newRow("its offers failed") << QStringLiteral("failed") << QString();
     }
 
     void wallLoadsAsBeforeWhenThePreloadCannotServe()
     {
         QFETCH(QString, reason);
+        QFETCH(QString, sentPair);
         const auto restoreAge = qScopeGuard([] { quorva::detail::setPreloadMaximumAge(std::chrono::minutes(5)); });
         m_service.setDropped(FakeOfferService::Offers, reason == QLatin1String("failed"));
         QVOfferWallPreload *ahead = preload();
@@ -78,6 +84,10 @@ private slots:
         m_service.setDropped(FakeOfferService::Offers, false);
         if (reason == QLatin1String("targeting"))
             QuorvaRestAPI::sharedInstance()->setGender(QStringLiteral("f"));
+        QVPrivacy privacy;
+        privacy.childDirected = reason == QLatin1String("child") ? QVPrivacy::Answer::Yes : QVPrivacy::Answer::Unknown;
+        privacy.gdprApplies = reason == QLatin1String("consent") ? QVPrivacy::Answer::Yes : QVPrivacy::Answer::Unknown;
+        QuorvaRestAPI::sharedInstance()->setPrivacy(privacy);
         if (reason == QLatin1String("stale"))
             quorva::detail::setPreloadMaximumAge(std::chrono::milliseconds(0));
 
@@ -86,8 +96,10 @@ private slots:
         QTRY_COMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
         QCOMPARE(m_service.requestsTo("/offers.json"), 2);
         QCOMPARE(m_service.requestsTo("/details.json"), 2);
-        QCOMPARE(m_service.offersQueries().last().value("gender"),
-                 reason == QLatin1String("targeting") ? QStringLiteral("f") : QString());
+        const QMap<QString, QString> sent = m_service.offersQueries().last();
+        if (!sentPair.isEmpty())
+            QCOMPARE(sent.value(sentPair.section(u'=', 0, 0)), sentPair.section(u'=', 1));
+        QVERIFY(!sent.contains(QStringLiteral("coppa")) || reason == QLatin1String("child"));
         QVERIFY(harness.alert() == nullptr);
 
         // Dropped: a later wall does not find it either.
@@ -132,13 +144,31 @@ private slots:
     {
         QTest::addColumn<QString>("properties");
         QTest::addColumn<bool>("taken");
+        QTest::addColumn<Pairs>("sent"); // pairs of the wall's own request when it asks itself
         const QString identifiers = QStringLiteral("pubId: \"1042\"; corvelId: \"7\"; subId1: \"user-1\"\n");
         const QString others = QStringLiteral(
             "creditsWatcher: watcher; theme: QVTheme.fromBrandColor(\"#FFD400\", QVTheme.Dark)\n");
-        QTest::newRow("identifiers first") << identifiers + others << true;
-        QTest::newRow("identifiers last") << others + identifiers << true;
+        QTest::newRow("identifiers first") << identifiers + others << true << Pairs();
+        QTest::newRow("identifiers last") << others + identifiers << true << Pairs();
         QTest::newRow("retargeted by the document")
-            << identifiers + others + QStringLiteral("gender: 1; subid3: \"from-qml\"\n") << false;
+            << identifiers + others + QStringLiteral("gender: 1; subid3: \"from-qml\"\n") << false
+            << Pairs{{"gender", "f"}, {"subid3", "from-qml"}};
+        // What the platform's calls give a QML host, and the user's choices, set as values.
+        const QString identifier = QStringLiteral("6F9619FF-8B86-D011-B42D-00CF4FC964FF");
+        QTest::newRow("identifier set by the document")
+            << identifiers + others + QStringLiteral("Component.onCompleted: { QVService.advertisingIdentifier = \"%1\"; "
+                                            "QVService.trackingEnabled = true }\n").arg(identifier.toLower())
+            << false << Pairs{{"device", identifier}, {"limit_tracking", "1"}};
+        QTest::newRow("a child, by the document")
+            << identifiers + others + QStringLiteral("gender: 0\nComponent.onCompleted: { QVService.advertisingIdentifier = \"%1\"; "
+                                            "QVService.childDirected = QVService.Yes; QVService.gdprApplies = QVService.No; "
+                                            "QVService.usPrivacyString = \"1YNN\"; QVService.gppString = \"DB\"; "
+                                            "QVService.gppSectionIds = \"2\"; QVService.gdprConsent = QVService.Yes; "
+                                            "QVService.gdprConsentString = \"CO\"; QVService.belowConsentAge = QVService.Yes; "
+                                            "QVService.advertisingIdOptOut = true }\n").arg(identifier)
+            << false << Pairs{{"coppa", "1"}, {"gdpr", "0"}, {"gdpr_consent", "CO"}, {"us_privacy", "1YNN"},
+                              {"gpp", "DB"}, {"gpp_sid", "2"}, {"device", "00000000-0000-0000-0000-000000000000"},
+                              {"gender", QString()}};
     }
 
     // Everything in QML: the client's address, the preload, a watcher, a theme, a language;
@@ -148,6 +178,7 @@ private slots:
     {
         QFETCH(QString, properties);
         QFETCH(bool, taken);
+        QFETCH(Pairs, sent);
         // What the library's interface files cannot find in a host's document is an error.
         QTest::failOnWarning(QRegularExpression(QStringLiteral("Error")));
         QVDevice::resetUserInterfaceIdiom();
@@ -189,10 +220,8 @@ private slots:
         QVERIFY(cellsInFirstFrame > 0 || !taken);
         QCOMPARE(m_service.requestsTo("/offers.json"), taken ? 1 : 2);
         QCOMPARE(m_service.requestsTo("/details.json"), taken ? 1 : 2);
-        if (!taken) {
-            QCOMPARE(m_service.offersQueries().last().value("gender"), QStringLiteral("f"));
-            QCOMPARE(m_service.offersQueries().last().value("subid3"), QStringLiteral("from-qml"));
-        }
+        for (auto it = sent.cbegin(); it != sent.cend(); ++it)
+            QCOMPARE(m_service.offersQueries().last().value(it.key()), it.value());
         QCOMPARE(wall->theme(), QVTheme::fromBrandColor(QColor(0xFF, 0xD4, 0x00), QVTheme::Dark));
 
         // The watcher declared beside the wall reports to it.

@@ -13,6 +13,7 @@
 #include <QtNetwork/QTcpServer>
 #include <QtTest/QtTest>
 
+#include <atomic>
 #include <cstring>
 #include <set>
 
@@ -22,6 +23,7 @@ using quorva::http::HttpResponse;
 using Pairs = QMap<QString, QString>;
 
 Q_DECLARE_METATYPE(HttpResponse::Fault)
+Q_DECLARE_METATYPE(QVPrivacy)
 
 // The requests' names, as the client's log lines give them, by Kind.
 const char *const kKindNames[] = {"offers", "profile", "categories", "history", "ticket"};
@@ -109,17 +111,74 @@ private slots:
         QTest::addColumn<bool>("featured");
         QTest::addColumn<QStringList>("targeting"); // gender, ageRange, subId2, subId3, subId4
         QTest::addColumn<bool>("withProvider");
-        QTest::addColumn<Pairs>("changed"); // the pairs that differ from the defaults' query
+        QTest::addColumn<QVPrivacy>("privacy");
+        QTest::addColumn<Pairs>("changed");  // the pairs that differ from the defaults' query
+        QTest::addColumn<QString>("privacyPairs"); // what follows the request's own pairs
         const QStringList none;
-        QTest::newRow("defaults") << QString() << QString() << false << none << false << Pairs();
-        QTest::newRow("featured and sort") << "payout" << QString() << true << none << false
-                                           << Pairs{{"featured_only", "1"}, {"sort_by", "payout"}};
-        QTest::newRow("category") << QString() << "7" << false << none << false << Pairs{{"category_id", "7"}};
+        const QVPrivacy unset;
+        QTest::newRow("defaults") << QString() << QString() << false << none << false << unset << Pairs() << "";
+        QTest::newRow("featured and sort") << "payout" << QString() << true << none << false << unset
+                                           << Pairs{{"featured_only", "1"}, {"sort_by", "payout"}} << "";
+        QTest::newRow("category") << QString() << "7" << false << none << false << unset << Pairs{{"category_id", "7"}} << "";
         QTest::newRow("targeting, empty subid4 still sent")
-            << QString() << QString() << false << QStringList{"f", "3", "s2", "s3", ""} << false
-            << Pairs{{"gender", "f"}, {"age_range_id", "3"}, {"subid2", "s2"}, {"subid3", "s3"}, {"subid4", ""}};
-        QTest::newRow("provider: tracking allowed is sent as 1") << QString() << QString() << false << none << true
-            << Pairs{{"device", "6F9619FF-8B86-D011-B42D-00CF4FC964FF"}, {"limit_tracking", "1"}};
+            << QString() << QString() << false << QStringList{"f", "3", "s2", "s3", ""} << false << unset
+            << Pairs{{"gender", "f"}, {"age_range_id", "3"}, {"subid2", "s2"}, {"subid3", "s3"}, {"subid4", ""}} << "";
+        QTest::newRow("provider: tracking allowed is sent as 1") << QString() << QString() << false << none << true << unset
+            << Pairs{{"device", "6F9619FF-8B86-D011-B42D-00CF4FC964FF"}, {"limit_tracking", "1"}} << "";
+
+        // The signals, each with targeting and an identifier that they may withhold.
+        const QStringList targeting{"f", "3", "s2"};
+        const Pairs personal{{"gender", "f"}, {"age_range_id", "3"}, {"subid2", "s2"},
+                             {"device", "6F9619FF-8B86-D011-B42D-00CF4FC964FF"}, {"limit_tracking", "1"}};
+        const Pairs withheld{{"subid2", "s2"}}; // the all-zero identifier and tracking "0" stay as by default
+        using A = QVPrivacy::Answer;
+        auto privacy = [](auto set) { QVPrivacy p; set(p); return p; };
+        auto row = [&](const char *name, const QVPrivacy &p, const Pairs &pairs, const QString &tail) {
+            Pairs changed = pairs;
+            changed.insert(rawQueryPairs(tail.mid(1).toStdString()));
+            QTest::newRow(name) << QString() << QString() << false << targeting << true << p << changed << tail;
+        };
+        row("GDPR with consent and its string", privacy([](QVPrivacy &p) {
+                p.gdprApplies = A::Yes; p.gdprConsent = A::Yes; p.gdprConsentString = "CPXxRfAPXxRfAAfKABENB-CgAAAAAAAAAAYgAAAAAAAA";
+            }), personal, "&gdpr=1&gdpr_consent=CPXxRfAPXxRfAAfKABENB-CgAAAAAAAAAAYgAAAAAAAA");
+        row("GDPR applies, consent unknown", privacy([](QVPrivacy &p) { p.gdprApplies = A::Yes; }), withheld, "&gdpr=1");
+        row("GDPR applies, consent refused", privacy([](QVPrivacy &p) { p.gdprApplies = A::Yes; p.gdprConsent = A::No; }),
+            withheld, "&gdpr=1");
+        row("GDPR does not apply", privacy([](QVPrivacy &p) { p.gdprApplies = A::No; }), personal, "&gdpr=0");
+        row("consent without the GDPR said sends no gdpr",
+            privacy([](QVPrivacy &p) { p.gdprConsent = A::No; p.gdprConsentString = "CP"; }), personal, "&gdpr_consent=CP");
+        row("US privacy: opted out of sale", privacy([](QVPrivacy &p) { p.usPrivacyString = "1YYN"; }), withheld,
+            "&us_privacy=1YYN");
+        row("US privacy: lower case opt-out", privacy([](QVPrivacy &p) { p.usPrivacyString = "1nyn"; }), withheld,
+            "&us_privacy=1nyn");
+        row("US privacy: not opted out", privacy([](QVPrivacy &p) { p.usPrivacyString = "1YNN"; }), personal,
+            "&us_privacy=1YNN");
+        row("US privacy that does not parse restricts nothing", privacy([](QVPrivacy &p) { p.usPrivacyString = "2YYN"; }),
+            personal, "&us_privacy=2YYN");
+        row("US privacy too long restricts nothing", privacy([](QVPrivacy &p) { p.usPrivacyString = "1YYNN"; }),
+            personal, "&us_privacy=1YYNN");
+        row("GPP string and sections", privacy([](QVPrivacy &p) { p.gppString = "DBABzw~1YYN"; p.gppSectionIds = "7_8"; }),
+            personal, "&gpp=DBABzw~1YYN&gpp_sid=7_8");
+        row("directed at children", privacy([](QVPrivacy &p) { p.childDirected = A::Yes; }), withheld, "&coppa=1");
+        row("below the age of consent", privacy([](QVPrivacy &p) { p.childDirected = A::No; p.belowConsentAge = A::Yes; }),
+            withheld, "&coppa=1");
+        row("known not to be a child", privacy([](QVPrivacy &p) { p.belowConsentAge = A::No; }), personal, "&coppa=0");
+        row("identifier opt-out keeps the targeting", privacy([](QVPrivacy &p) { p.advertisingIdOptOut = true; }),
+            Pairs{{"gender", "f"}, {"age_range_id", "3"}, {"subid2", "s2"}}, "");
+        row("every signal, in order", privacy([](QVPrivacy &p) {
+                p.gdprApplies = A::Yes; p.gdprConsent = A::Yes; p.gdprConsentString = "CO"; p.usPrivacyString = "1NNN";
+                p.gppString = "DB"; p.gppSectionIds = "2"; p.childDirected = A::No;
+            }), personal, "&gdpr=1&gdpr_consent=CO&us_privacy=1NNN&gpp=DB&gpp_sid=2&coppa=0");
+
+        // A consent tool's string of any content stays one value: nothing added, split or dropped.
+        row("query characters escaped", privacy([](QVPrivacy &p) { p.gdprConsentString = "a&gdpr=0#b c?d=e"; }),
+            personal, "&gdpr_consent=a%26gdpr%3D0%23b%20c%3Fd%3De");
+        row("NUL, line break and non-ASCII escaped", privacy([](QVPrivacy &p) {
+                p.usPrivacyString = QStringLiteral("1\u0000Y\n\u00e9");
+            }), personal, "&us_privacy=1%00Y%0A%C3%A9");
+        row("blanks only", privacy([](QVPrivacy &p) { p.gppSectionIds = "  "; }), personal, "&gpp_sid=%20%20");
+        row("very long", privacy([](QVPrivacy &p) { p.gppString = QString(6000, u'Z'); }), personal,
+            "&gpp=" + QString(6000, u'Z'));
     }
 
     void offersQuery()
@@ -129,7 +188,9 @@ private slots:
         QFETCH(bool, featured);
         QFETCH(QStringList, targeting);
         QFETCH(bool, withProvider);
+        QFETCH(QVPrivacy, privacy);
         QFETCH(Pairs, changed);
+        QFETCH(QString, privacyPairs);
         Pairs expected{{"subid1", "user3"}, {"limit", "30"}, {"offset", "60"}, {"sort_order", "desc"},
                        {"device", "00000000-0000-0000-0000-000000000000"}, {"limit_tracking", "0"},
                        {"sort_by", "popularity"}};
@@ -137,11 +198,19 @@ private slots:
 
         QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
         setTargeting(api, targeting);
+        api->setPrivacy(privacy);
+        // The provider blocks on a phone: it is read off the GUI thread, and not at all
+        // when the signals withhold what it gives.
+        std::atomic<int> providerCalls{0};
+        std::atomic<bool> providerOnGuiThread{false};
         if (withProvider) {
-            api->setAdvertisingInfoProvider([] {
+            api->setAdvertisingInfoProvider([&] {
+                ++providerCalls;
+                providerOnGuiThread = QThread::currentThread() == qApp->thread();
                 return QVAdvertisingInfo{QStringLiteral("{6f9619ff-8b86-d011-b42d-00cf4fc964ff}"), true};
             });
         }
+        LogCapture log;
         CallbackProbe probe;
         api->fetchOffers(60, sort, category, featured,
                          [&](const QList<QVOffer> &, bool) { ++probe.successes; }, probe.failure());
@@ -149,9 +218,17 @@ private slots:
         QCOMPARE(probe.successes, 1);
         const HttpRequest received = m_server.lastRequest();
         QCOMPARE(rawQueryPairs(received.query), expected);
+        QVERIFY(QString::fromStdString(received.query).endsWith(privacyPairs));
         QCOMPARE(received.method, std::string("GET"));
         QVERIFY(received.tls);
         QCOMPARE(received.path, std::string("/corvel/api/publisher/pub1/profile/wall2/offers.json"));
+        const bool identifierSent = expected.value("device") != QLatin1String("00000000-0000-0000-0000-000000000000");
+        QCOMPARE(providerCalls.load(), identifierSent ? 1 : 0);
+        QVERIFY(!providerOnGuiThread);
+        for (const QString &value : {privacy.gdprConsentString, privacy.usPrivacyString, privacy.gppString}) {
+            if (value.size() > 2)
+                QVERIFY2(!log.messages().join(u'\n').contains(value), "a consent string was logged");
+        }
     }
 
     void offersMoreFlagFollowsStatus_data()
@@ -553,6 +630,7 @@ private:
         api->setSubId1(QStringLiteral("user3"));
         setTargeting(api);
         api->setAdvertisingInfoProvider(nullptr);
+        api->setPrivacy({});
     }
 
     // Starts one request of the given kind; the probe counts its callbacks.

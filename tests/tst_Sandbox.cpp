@@ -138,6 +138,35 @@ private slots:
         QVERIFY(!stored[1].toObject().contains(QStringLiteral("message")));
     }
 
+    // An app for children never lists the casino's offers, through the client as raw.
+    void aChildIsOfferedNothingOfTheCasino()
+    {
+        const QString casino = QStringLiteral("/corvel/api/publisher/1042/profile/7/offers.json?subid1=u&limit=100&category_id=8");
+        QCOMPARE(raw("GET", casino).status, 200);
+        QCOMPARE(raw("GET", casino + QStringLiteral("&coppa=0")).status, 200);
+        QCOMPARE(raw("GET", casino + QStringLiteral("&coppa=1")).status, 204);
+
+        QVPrivacy child;
+        child.childDirected = QVPrivacy::Answer::Yes;
+        QuorvaRestAPI::sharedInstance()->setPrivacy(child);
+        const auto adults = qScopeGuard([] { QuorvaRestAPI::sharedInstance()->setPrivacy({}); });
+        QStringList names;
+        bool more = true;
+        for (quint64 offset = 0; more; offset += 30) {
+            CallbackProbe probe;
+            QuorvaRestAPI::sharedInstance()->fetchOffers(offset, {}, {}, false, [&](const QList<QVOffer> &offers, bool m) {
+                ++probe.successes;
+                more = m;
+                for (const QVOffer &offer : offers)
+                    names.append(offer.offerName());
+            }, probe.failure());
+            QTRY_VERIFY(probe.finished());
+            QCOMPARE(probe.successes, 1);
+        }
+        QVERIFY(names.size() > 200);
+        QVERIFY(!names.contains(QStringLiteral("Spin City Slots")));
+    }
+
     void creditsComeFirstInTheHistory()
     {
         const QString history = QStringLiteral("/corvel/api/publisher/1042/profile/7/user/u-credit/transactions.json");

@@ -7,6 +7,7 @@
 #include <QtCore/QString>
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 namespace quorva::detail {
@@ -18,6 +19,10 @@ struct TransferRequest
     const char *name = "";      // the request's name for diagnostics ("offers", ...)
     QByteArray method;          // "GET" or "POST"
     QString address;            // sent exactly as written; see isSendableAddress()
+    // For a value whose reading blocks (the host's advertising identifier): runs on the
+    // worker pool and gives the address to send. `address` then holds the request without
+    // that value, which is what two requests are compared by.
+    std::function<QString()> completeAddress;
     QByteArray userAgent;
     QByteArray contentType;     // none when empty
     QByteArray body;            // only sent with POST

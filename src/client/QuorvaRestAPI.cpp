@@ -1,6 +1,7 @@
 #include "QuorvaRestAPI.h"
 #include "QuorvaRestAPIPrivate.h"
 #include "QuorvaLog.h"
+#include "PrivacySignals.h"
 #include "ReplyParsers.h"
 #include "RequestPipeline.h"
 #include "ServiceRequests.h"
@@ -17,6 +18,7 @@
 #include <QtCore/QUrl>
 #include <QtCore/QUuid>
 
+using quorva::detail::PrivacySignals;
 using quorva::detail::RequestPipeline;
 using quorva::detail::ServiceIdentity;
 using quorva::detail::ServiceRequests;
@@ -208,13 +210,14 @@ void QuorvaRestAPI::setAdvertisingInfoProvider(AdvertisingInfoProvider provider)
     d_func()->m_advertisingInfoProvider = std::move(provider);
 }
 
-QVAdvertisingInfo QuorvaRestAPI::advertisingInfo() const
+void QuorvaRestAPI::setPrivacy(const QVPrivacy &privacy)
 {
-    QVAdvertisingInfo info;
-    if (d_func()->m_advertisingInfoProvider)
-        info = d_func()->m_advertisingInfoProvider();
-    info.identifier = canonicalAdvertisingId(info.identifier);
-    return info;
+    d_func()->m_privacy = privacy;
+}
+
+QVPrivacy QuorvaRestAPI::privacy() const
+{
+    return d_func()->m_privacy;
 }
 
 QString QuorvaRestAPI::urlString(const QString &base, const std::optional<QVariantMap> &params) const
@@ -360,28 +363,42 @@ TransferRequest ServiceRequests::offersRequest(QuorvaRestAPI *api, const Service
                                                const QString &sortby, const QString &category, bool featured)
 {
     require(identity.subId1, "fetchOffers", "subId1");
-    const QVAdvertisingInfo advertising = api->advertisingInfo();
+    const QuorvaRestAPIPrivate *d = api->d_func();
     QVariantMap params{
         {query::subid1, identity.subId1},
         {query::limit, QString::number(kPageSize)},
         {query::offset, QString::number(offset)},
         {query::sortOrder, QString(query::descending)},
-        {query::device, advertising.identifier},
-        // The service reads this flag as "tracking allowed", despite its name.
-        {query::limitTracking, advertising.trackingEnabled},
         {query::sortBy, sortby.isNull() ? QString(query::defaultSort) : sortby},
     };
     insertIfPresent(params, query::categoryId, category);
     if (featured)
         params.insert(query::featuredOnly, QStringLiteral("1"));
-    insertIfPresent(params, query::ageRangeId, api->d_func()->m_ageRange);
-    insertIfPresent(params, query::gender, api->d_func()->m_gender);
-    insertIfPresent(params, query::subid2, api->d_func()->m_subId2);
-    insertIfPresent(params, query::subid3, api->d_func()->m_subId3);
-    insertIfPresent(params, query::subid4, api->d_func()->m_subId4);
+    if (PrivacySignals::allowPersonalisation(d->m_privacy)) {
+        insertIfPresent(params, query::ageRangeId, d->m_ageRange);
+        insertIfPresent(params, query::gender, d->m_gender);
+    }
+    insertIfPresent(params, query::subid2, d->m_subId2);
+    insertIfPresent(params, query::subid3, d->m_subId3);
+    insertIfPresent(params, query::subid4, d->m_subId4);
 
-    const QString path = QString::fromLatin1(kOffersPath).arg(identity.pubId, identity.corvelId);
-    return api->requestFor(requestname::offers, api->urlString(api->addressFor(kHttps, path), params));
+    const QString base = api->addressFor(kHttps, QString::fromLatin1(kOffersPath).arg(identity.pubId, identity.corvelId));
+    const QString privacyPairs = PrivacySignals::queryPairs(d->m_privacy);
+    // The identifier and the tracking flag as the service reads them: "limit_tracking" 1
+    // means tracking is allowed, despite its name.
+    auto addressWith = [api, base, params, privacyPairs](const QVAdvertisingInfo &advertising) mutable {
+        params.insert(query::device, canonicalAdvertisingId(advertising.identifier));
+        params.insert(query::limitTracking, advertising.trackingEnabled);
+        return api->urlString(base, params) + privacyPairs;
+    };
+    const QuorvaRestAPI::AdvertisingInfoProvider provider = d->m_advertisingInfoProvider;
+    if (!provider || PrivacySignals::withholdIdentifier(d->m_privacy))
+        return api->requestFor(requestname::offers, addressWith(QVAdvertisingInfo()));
+    // The provider's platform call blocks: it is read on the worker pool, just before
+    // sending. The request is known by everything else.
+    TransferRequest request = api->requestFor(requestname::offers, api->urlString(base, params) + privacyPairs);
+    request.completeAddress = [addressWith, provider]() mutable { return addressWith(provider()); };
+    return request;
 }
 
 void ServiceRequests::sendOffers(QuorvaRestAPI *api, TransferRequest request, QuorvaRestAPI::OffersCallback callback,

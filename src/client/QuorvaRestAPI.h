@@ -4,6 +4,7 @@
 #include "QVAdvertisingInfo.h"
 #include "QVCategory.h"
 #include "QVOffer.h"
+#include "QVPrivacy.h"
 #include "QVProfile.h"
 #include "QVTransaction.h"
 
@@ -105,9 +106,18 @@ public:
     /// The cap set with setMaximumReplySize(), in bytes.
     qint64 maximumReplySize() const;
 
-    /// Read anew for every offers request. Without a provider the all-zero identifier
-    /// is sent and tracking counts as not allowed.
+    /// Read anew for every offers request, on the worker pool (the platforms' calls that
+    /// read the identifier block and refuse the GUI thread), so it must be safe to call
+    /// from any thread. Not called at all while the privacy signals withhold the
+    /// identifier. Without a provider the all-zero identifier is sent and tracking counts
+    /// as not allowed.
     void setAdvertisingInfoProvider(AdvertisingInfoProvider provider);
+
+    /// The user's privacy choices, sent with every offers request started after this call
+    /// and obeyed by it (see QVPrivacy). Unset, requests are as they always were.
+    void setPrivacy(const QVPrivacy &privacy);
+    /// The privacy choices set with setPrivacy().
+    QVPrivacy privacy() const;
 
     /// The address base followed by the parameters as a query string, values as given,
     /// in the map's order.
@@ -144,7 +154,6 @@ private:
     Q_DECL_HIDDEN QString addressFor(const char *scheme, const QString &path) const;
     Q_DECL_HIDDEN QString userPath(const char *pathFormat) const;
     Q_DECL_HIDDEN quorva::detail::TransferRequest requestFor(const char *name, const QString &address);
-    Q_DECL_HIDDEN QVAdvertisingInfo advertisingInfo() const;
 
 
     Q_DECLARE_PRIVATE_D(m_d, QuorvaRestAPI)

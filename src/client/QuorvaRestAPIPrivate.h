@@ -21,6 +21,7 @@ public:
     std::chrono::milliseconds m_transferTimeout = QuorvaRestAPI::kDefaultTransferTimeout;
     qint64 m_maximumReplySize = QuorvaRestAPI::kDefaultMaximumReplySize;
     QuorvaRestAPI::AdvertisingInfoProvider m_advertisingInfoProvider;
+    QVPrivacy m_privacy;
     QString m_cachedApplicationName;
     QString m_cachedDeviceModel;
 };

@@ -17,15 +17,17 @@ void postToGuiThread(std::function<void()> fn)
 void RequestPipeline::send(QThreadPool *pool, TransferRequest request, ResponseHandler onResponse,
                            FailureHandler onFailure)
 {
-    // Diagnostics name the request, never the values it carries.
-    if (!HttpTransport::isSendableAddress(request.address)) {
-        qCWarning(lcQuorvaDiagnostics).noquote()
-            << request.name << "request not sent: its address holds a character that cannot stand unescaped";
-        postToGuiThread(std::move(onFailure));
-        return;
-    }
     pool->start([request = std::move(request), onResponse = std::move(onResponse),
                  onFailure = std::move(onFailure)]() mutable {
+        if (request.completeAddress)
+            request.address = request.completeAddress();
+        // Diagnostics name the request, never the values it carries.
+        if (!HttpTransport::isSendableAddress(request.address)) {
+            qCWarning(lcQuorvaDiagnostics).noquote()
+                << request.name << "request not sent: its address holds a character that cannot stand unescaped";
+            postToGuiThread(std::move(onFailure));
+            return;
+        }
         const TransferResult result = HttpTransport::perform(request);
         if (result.answered()) {
             onResponse(result.status, result.body);

@@ -64,3 +64,52 @@ QVOfferWallPreload *QVService::preload(const QString &pubId, const QString &corv
         QQmlEngine::setObjectOwnership(preload, QQmlEngine::CppOwnership);
     return preload;
 }
+
+QVPrivacy QVService::privacy()
+{
+    return QuorvaRestAPI::sharedInstance()->privacy();
+}
+
+template <typename Value>
+void QVService::setPrivacyField(Value QVPrivacy::*field, const Value &value)
+{
+    QVPrivacy privacy = QVService::privacy();
+    if (privacy.*field == value)
+        return;
+    privacy.*field = value;
+    QuorvaRestAPI::sharedInstance()->setPrivacy(privacy);
+    emit privacyChanged();
+}
+
+void QVService::setGdprApplies(Answer value) { setPrivacyField(&QVPrivacy::gdprApplies, QVPrivacy::Answer(value)); }
+void QVService::setGdprConsent(Answer value) { setPrivacyField(&QVPrivacy::gdprConsent, QVPrivacy::Answer(value)); }
+void QVService::setGdprConsentString(const QString &value) { setPrivacyField(&QVPrivacy::gdprConsentString, value); }
+void QVService::setUsPrivacyString(const QString &value) { setPrivacyField(&QVPrivacy::usPrivacyString, value); }
+void QVService::setGppString(const QString &value) { setPrivacyField(&QVPrivacy::gppString, value); }
+void QVService::setGppSectionIds(const QString &value) { setPrivacyField(&QVPrivacy::gppSectionIds, value); }
+void QVService::setChildDirected(Answer value) { setPrivacyField(&QVPrivacy::childDirected, QVPrivacy::Answer(value)); }
+void QVService::setBelowConsentAge(Answer value)
+{
+    setPrivacyField(&QVPrivacy::belowConsentAge, QVPrivacy::Answer(value));
+}
+void QVService::setAdvertisingIdOptOut(bool value) { setPrivacyField(&QVPrivacy::advertisingIdOptOut, value); }
+
+void QVService::setAdvertisingIdentifier(const QString &identifier)
+{
+    setAdvertising({identifier, m_advertising.trackingEnabled});
+}
+
+void QVService::setTrackingEnabled(bool enabled)
+{
+    setAdvertising({m_advertising.identifier, enabled});
+}
+
+void QVService::setAdvertising(const QVAdvertisingInfo &advertising)
+{
+    if (advertising.identifier == m_advertising.identifier && advertising.trackingEnabled == m_advertising.trackingEnabled)
+        return;
+    m_advertising = advertising;
+    // A copy of the values, read on the worker pool like any provider.
+    QuorvaRestAPI::sharedInstance()->setAdvertisingInfoProvider([advertising] { return advertising; });
+    emit advertisingChanged();
+}

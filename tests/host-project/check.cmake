@@ -63,7 +63,7 @@ if(NOT rc EQUAL 0)
 endif()
 execute_process(COMMAND ${WORK_DIR}/build/quorva-host RESULT_VARIABLE rc OUTPUT_VARIABLE out)
 message(STATUS "host printed: ${out}")
-if(NOT rc EQUAL 0 OR NOT out MATCHES "PROJECT:QuorvaMedia-1.1.0" OR NOT out MATCHES "release 2.1.0")
+if(NOT rc EQUAL 0 OR NOT out MATCHES "PROJECT:QuorvaMedia-1.1.0" OR NOT out MATCHES "release 2.2.0")
     message(FATAL_ERROR "host project did not run against the installed library")
 endif()
 

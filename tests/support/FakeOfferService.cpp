@@ -116,6 +116,8 @@ void FakeOfferService::reset()
     QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
     api->setServiceBaseAddress(baseAddress());
     setTargeting(api);
+    api->setPrivacy({});
+    api->setAdvertisingInfoProvider(nullptr);
     api->setTransferTimeout(QuorvaRestAPI::kDefaultTransferTimeout);
 }
 

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // The size of the built library once stripped, as a host ships it.
 #include "BenchSupport.h"
 

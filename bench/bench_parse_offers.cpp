@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // Building offer records from a reply, against parsing the same bytes with
 // QJsonDocument::fromJson alone: a real sandbox page of 30 offers, and a body of 3,000.
 #include "BenchSupport.h"

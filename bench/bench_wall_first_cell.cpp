@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // Time from creating the wall to the frame that shows its first offer cell, against a
 // bare request for the same page (QNetworkAccessManager GET and QJsonDocument::fromJson).
 // Warm walls are measured in this process; the first wall of a process (cold) and the

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // Flings a phone wall through 3,000 offers with pictures, one 45-point step a frame:
 // GUI-thread CPU per frame, offer cells created, reused and alive, picture fetches per
 // address, decodes on the GUI thread and decoded picture size. Run under a display.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 QuorvaMedia
+# SPDX-License-Identifier: Apache-2.0
+
 # Asks rcc to compress a target's interface files, property lists and translations
 # whenever that saves at least `threshold` percent (rcc's own default asks for 70).
 # Qt writes each resource list when it is declared, so this edits the lists right

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 QuorvaMedia
+# SPDX-License-Identifier: Apache-2.0
+
 # Cross-builds for 64-bit ARM Linux with Debian's cross toolchain and the :arm64 packages
 # (dpkg --add-architecture arm64). Qt's code generators (moc, rcc, qmltyperegistrar, lrelease)
 # are the build machine's own; programs built here run under qemu through

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // quorva-demo: a host application that embeds the offer wall against the local sandbox.
 // With a display it opens a phone- or tablet-sized window; with --screenshots it renders
 // the main screens to PNG files and prints their paths.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // quorva-sandbox: a local stand-in for the offer service, for the demo and the tests.
 #include "Certificates.h"
 #include "HttpServer.h"
@@ -42,7 +45,8 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Local stand-in for the QuorvaMedia offer service (HTTP and HTTPS on one port)."));
     parser.addHelpOption();
-    const QCommandLineOption address(QStringLiteral("address"), QStringLiteral("Address to listen on."), QStringLiteral("ip"), QStringLiteral("127.0.0.1"));
+    const QCommandLineOption address(QStringLiteral("address"), QStringLiteral("Address to listen on (0.0.0.0: every interface). Its certificate names it too."), QStringLiteral("ip"), QStringLiteral("127.0.0.1"));
+    const QCommandLineOption name(QStringLiteral("name"), QStringLiteral("A host name or address the certificate names besides loopback (repeatable): how a phone on the network reaches this machine."), QStringLiteral("host"));
     const QCommandLineOption port(QStringLiteral("port"), QStringLiteral("Port (0 picks a free one)."), QStringLiteral("port"), QStringLiteral("8443"));
     const QCommandLineOption dataDir(QStringLiteral("data-dir"), QStringLiteral("Folder of the database and certificates."), QStringLiteral("dir"), defaultDataDirectory());
     const QCommandLineOption caOut(QStringLiteral("ca-out"), QStringLiteral("Also write the CA certificate to this file."), QStringLiteral("file"));
@@ -58,7 +62,7 @@ int main(int argc, char **argv)
     const QCommandLineOption handshakeTimeout(QStringLiteral("handshake-timeout"), QStringLiteral("Close a connection whose TLS handshake takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("10000"));
     const QCommandLineOption headerTimeout(QStringLiteral("header-timeout"), QStringLiteral("Close a connection whose next request head takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("15000"));
     const QCommandLineOption bodyTimeout(QStringLiteral("body-timeout"), QStringLiteral("Close a connection whose request body takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("30000"));
-    parser.addOptions({address, port, dataDir, caOut, latency, drop, dropEvery, status, body, faultPath, faultFile, quiet,
+    parser.addOptions({address, name, port, dataDir, caOut, latency, drop, dropEvery, status, body, faultPath, faultFile, quiet,
                        handshakeTimeout, headerTimeout, bodyTimeout, requestLog});
     parser.process(app);
 
@@ -80,7 +84,13 @@ int main(int argc, char **argv)
 
     try {
         const std::string directory = QDir(parser.value(dataDir)).absolutePath().toStdString();
-        const http::GeneratedCertificates certificates = http::loadOrCreateLoopbackCertificates(directory);
+        std::vector<std::string> names;
+        const QString listenAddress = parser.value(address);
+        if (listenAddress != QLatin1String("0.0.0.0") && listenAddress != QLatin1String("::"))
+            names.push_back(listenAddress.toStdString());
+        for (const QString &extra : parser.values(name))
+            names.push_back(extra.toStdString());
+        const http::GeneratedCertificates certificates = http::loadOrCreateCertificates(directory, names);
         if (parser.isSet(caOut)) {
             std::ofstream(parser.value(caOut).toStdString(), std::ios::trunc) << certificates.caCertificatePem;
         }
@@ -108,6 +118,7 @@ int main(int argc, char **argv)
         std::cout << "quorva-sandbox listening on " << parser.value(address).toStdString() << ":" << bound
                   << std::endl;
         std::cout << "CA certificate: " << directory << "/ca.pem" << std::endl;
+        std::cout << "certificate names: " << http::subjectAltNames(names) << std::endl;
         g_server = &server;
         std::signal(SIGINT, stopOnSignal);
         std::signal(SIGTERM, stopOnSignal);

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 #include "Patience.h"
 #include "CallbackProbe.h"
 #include "SandboxProcess.h"
@@ -136,6 +139,51 @@ private slots:
         QCOMPARE(stored[0][QStringLiteral("offer_name")].toString(), QStringLiteral("Dragon Realms"));
         QCOMPARE(stored[0][QStringLiteral("user")].toString(), QStringLiteral("user-1"));
         QVERIFY(!stored[1].toObject().contains(QStringLiteral("message")));
+    }
+
+    // A phone on the laptop's network reaches the sandbox by the laptop's address or name:
+    // its certificate names them, under the CA the phone already trusts.
+    void certificateNamesTheAddressesAPhoneUses()
+    {
+        QTemporaryDir data;
+        const QStringList names{QStringLiteral("--address"), QStringLiteral("127.0.0.2"),
+                                QStringLiteral("--name"), QStringLiteral("laptop.example"),
+                                QStringLiteral("--name"), QStringLiteral("10.0.0.7")};
+        auto served = [&data] {
+            return QSslCertificate::fromPath(data.filePath(QStringLiteral("server-cert.pem"))).value(0);
+        };
+        auto dnsNames = [&served] {
+            QStringList dns = served().subjectAlternativeNames().values(QSsl::DnsEntry);
+            dns.sort();
+            return dns;
+        };
+        QList<QSslCertificate> authority;
+        {
+            SandboxProcess sandbox(names, data.path());
+            QVERIFY(sandbox.isRunning());
+            authority = sandbox.caCertificates();
+            const auto sans = served().subjectAlternativeNames();
+            QCOMPARE(dnsNames(), (QStringList{"laptop.example", "localhost"}));
+            QCOMPARE(sans.values(QSsl::IpAddressEntry).size(), 4); // loopback both ways, 127.0.0.2, 10.0.0.7
+            QVERIFY(sans.values(QSsl::IpAddressEntry).contains(QStringLiteral("127.0.0.2")));
+
+            // Over TLS to the second loopback address, the certificate checked.
+            QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+            api->addCaCertificates(authority);
+            api->setServiceBaseAddress(QStringLiteral("127.0.0.2:%1").arg(sandbox.port()));
+            CallbackProbe probe;
+            api->fetchCategories([&](const QList<QVCategory> &categories) { probe.successes += categories.isEmpty() ? 0 : 1; },
+                                 probe.failure());
+            QTRY_VERIFY(probe.finished());
+            QCOMPARE(probe.successes, 1);
+        }
+        // Other names: a new server certificate, under the same CA.
+        const QSslCertificate before = served();
+        SandboxProcess renamed({QStringLiteral("--name"), QStringLiteral("other.example")}, data.path());
+        QVERIFY(renamed.isRunning());
+        QCOMPARE(renamed.caCertificates(), authority);
+        QVERIFY(served() != before);
+        QCOMPARE(dnsNames(), (QStringList{"localhost", "other.example"}));
     }
 
     // An app for children never lists the casino's offers, through the client as raw.

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 QuorvaMedia
+# SPDX-License-Identifier: Apache-2.0
+
 quorva_add_test(tst_QVImageView)
 quorva_add_test(tst_QVTheme)
 quorva_add_test(tst_QVLanguage)

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Controls
@@ -82,7 +85,7 @@ ApplicationWindow {
             language: languageChoice.currentValue
             onClosePressed: wall.destroy()
             onOffersShown: console.log("offers shown")
-            onOfferOpened: offer => console.log("offer opened:", offer.name)
+            onOfferOpened: offer => console.log("offer opened:", offer.offerName)
         }
     }
 }

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 #include <QuorvaMedia/QuorvaMedia.h>
 #include <QtGui/QGuiApplication>
 #include <QtQuick/QQuickWindow>
@@ -15,6 +18,8 @@ int main(int argc, char **argv)
     // The host owns the wall; it goes before the window it is shown in.
     std::unique_ptr<QVOffersViewController> wall(QVOffersViewController::newOffersWallForPublisherId(
         QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"), nullptr));
+    if (!wall) // its interface did not load: a Qt Quick module is missing (README, "Shipping")
+        return 1;
     wall->setParentItem(window.contentItem()); // loading starts when the window shows
     wall->setSize(window.size());
     QObject::connect(&window, &QWindow::widthChanged, wall.get(), &QQuickItem::setWidth);

@@ -1,4 +1,9 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 #include "Certificates.h"
+
+#include <arpa/inet.h>
 
 #include <openssl/bio.h>
 #include <openssl/evp.h>
@@ -19,6 +24,8 @@ namespace {
 constexpr const char *kCaFile = "ca.pem";
 constexpr const char *kServerCertFile = "server-cert.pem";
 constexpr const char *kServerKeyFile = "server-key.pem";
+constexpr const char *kCaKeyFile = "ca-key.pem";
+constexpr const char *kNamesFile = "server-names.txt";
 constexpr long kValiditySeconds = 10L * 365 * 24 * 3600;
 
 template <auto Free>
@@ -52,7 +59,7 @@ void addExtension(X509 *cert, X509 *issuer, int nid, const char *value)
 }
 
 CertPtr newCertificate(EVP_PKEY *key, const char *commonName, long serial, X509 *issuer,
-                       EVP_PKEY *issuerKey, bool isCa)
+                       EVP_PKEY *issuerKey, bool isCa, const std::string &subjectAltNames = {})
 {
     CertPtr cert(X509_new());
     check(cert != nullptr, "certificate");
@@ -77,8 +84,7 @@ CertPtr newCertificate(EVP_PKEY *key, const char *commonName, long serial, X509 
         addExtension(cert.get(), signer, NID_authority_key_identifier, "keyid:always");
         addExtension(cert.get(), signer, NID_key_usage, "critical,digitalSignature,keyEncipherment");
         addExtension(cert.get(), signer, NID_ext_key_usage, "serverAuth");
-        addExtension(cert.get(), signer, NID_subject_alt_name,
-                     "DNS:localhost,IP:127.0.0.1,IP:0:0:0:0:0:0:0:1");
+        addExtension(cert.get(), signer, NID_subject_alt_name, subjectAltNames.c_str());
     }
     check(X509_sign(cert.get(), issuerKey, EVP_sha256()) > 0, "signature");
     return cert;
@@ -118,7 +124,45 @@ void writeFile(const std::filesystem::path &path, const std::string &content)
 }
 } // namespace
 
-GeneratedCertificates generateLoopbackCertificates()
+std::string subjectAltNames(const std::vector<std::string> &extraNames)
+{
+    std::string names = "DNS:localhost,IP:127.0.0.1,IP:0:0:0:0:0:0:0:1";
+    for (const std::string &name : extraNames) {
+        in6_addr address{};
+        const bool ip = inet_pton(AF_INET, name.c_str(), &address) == 1 || inet_pton(AF_INET6, name.c_str(), &address) == 1;
+        const std::string entry = (ip ? "IP:" : "DNS:") + name;
+        if (name.empty() || name.find(',') != std::string::npos || ("," + names + ",").find("," + entry + ",") != std::string::npos)
+            continue;
+        names += "," + entry;
+    }
+    return names;
+}
+
+namespace {
+// A server certificate for the names, signed by the CA.
+TlsMaterial issueServer(X509 *ca, EVP_PKEY *caKey, const std::string &caPem, const std::string &names)
+{
+    std::random_device random;
+    KeyPtr serverKey = newKey();
+    CertPtr server = newCertificate(serverKey.get(), "localhost", static_cast<long>(random() & 0x3fffffff) + 1, ca,
+                                    caKey, false, names);
+    return {pem(server.get()) + caPem, pem(serverKey.get())};
+}
+
+CertPtr certificateFrom(const std::string &text)
+{
+    BioPtr bio(BIO_new_mem_buf(text.data(), static_cast<int>(text.size())));
+    return CertPtr(PEM_read_bio_X509(bio.get(), nullptr, nullptr, nullptr));
+}
+
+KeyPtr keyFrom(const std::string &text)
+{
+    BioPtr bio(BIO_new_mem_buf(text.data(), static_cast<int>(text.size())));
+    return KeyPtr(PEM_read_bio_PrivateKey(bio.get(), nullptr, nullptr, nullptr));
+}
+} // namespace
+
+GeneratedCertificates generateCertificates(const std::vector<std::string> &extraNames)
 {
     // Each authority gets its own name and serials, so a client that trusts several
     // sandboxes (one per test, say) never confuses their chains.
@@ -127,34 +171,52 @@ GeneratedCertificates generateLoopbackCertificates()
     const std::string caName = "QuorvaMedia Sandbox CA " + std::to_string(serial);
     KeyPtr caKey = newKey();
     CertPtr ca = newCertificate(caKey.get(), caName.c_str(), serial, nullptr, caKey.get(), true);
-    KeyPtr serverKey = newKey();
-    CertPtr server = newCertificate(serverKey.get(), "localhost", serial + 1, ca.get(), caKey.get(), false);
 
     GeneratedCertificates result;
     result.caCertificatePem = pem(ca.get());
-    result.server.certificateChainPem = pem(server.get()) + result.caCertificatePem;
-    result.server.privateKeyPem = pem(serverKey.get());
+    result.caPrivateKeyPem = pem(caKey.get());
+    result.server = issueServer(ca.get(), caKey.get(), result.caCertificatePem, subjectAltNames(extraNames));
     return result;
 }
 
-GeneratedCertificates loadOrCreateLoopbackCertificates(const std::string &directory)
+GeneratedCertificates loadOrCreateCertificates(const std::string &directory, const std::vector<std::string> &extraNames)
 {
     namespace fs = std::filesystem;
     const fs::path dir(directory);
     fs::create_directories(dir);
-    if (fs::exists(dir / kCaFile) && fs::exists(dir / kServerCertFile) && fs::exists(dir / kServerKeyFile)) {
+    const std::string names = subjectAltNames(extraNames);
+    auto keepPrivate = [&dir](const char *file) {
+        fs::permissions(dir / file, fs::perms::owner_read | fs::perms::owner_write);
+    };
+    const bool haveCa = fs::exists(dir / kCaFile) && fs::exists(dir / kCaKeyFile);
+    if (haveCa && fs::exists(dir / kServerCertFile) && fs::exists(dir / kServerKeyFile)
+        && fs::exists(dir / kNamesFile) && readFile(dir / kNamesFile) == names) {
         GeneratedCertificates loaded;
         loaded.caCertificatePem = readFile(dir / kCaFile);
+        loaded.caPrivateKeyPem = readFile(dir / kCaKeyFile);
         loaded.server.certificateChainPem = readFile(dir / kServerCertFile);
         loaded.server.privateKeyPem = readFile(dir / kServerKeyFile);
         return loaded;
     }
-    GeneratedCertificates fresh = generateLoopbackCertificates();
-    writeFile(dir / kCaFile, fresh.caCertificatePem);
-    writeFile(dir / kServerCertFile, fresh.server.certificateChainPem);
-    writeFile(dir / kServerKeyFile, fresh.server.privateKeyPem);
-    fs::permissions(dir / kServerKeyFile, fs::perms::owner_read | fs::perms::owner_write);
-    return fresh;
+    GeneratedCertificates certificates;
+    CertPtr ca = haveCa ? certificateFrom(readFile(dir / kCaFile)) : nullptr;
+    KeyPtr caKey = haveCa ? keyFrom(readFile(dir / kCaKeyFile)) : nullptr;
+    if (ca && caKey) {
+        // The names changed: the clients keep trusting the same CA.
+        certificates.caCertificatePem = readFile(dir / kCaFile);
+        certificates.caPrivateKeyPem = readFile(dir / kCaKeyFile);
+        certificates.server = issueServer(ca.get(), caKey.get(), certificates.caCertificatePem, names);
+    } else {
+        certificates = generateCertificates(extraNames);
+        writeFile(dir / kCaFile, certificates.caCertificatePem);
+        writeFile(dir / kCaKeyFile, certificates.caPrivateKeyPem);
+        keepPrivate(kCaKeyFile);
+    }
+    writeFile(dir / kServerCertFile, certificates.server.certificateChainPem);
+    writeFile(dir / kServerKeyFile, certificates.server.privateKeyPem);
+    keepPrivate(kServerKeyFile);
+    writeFile(dir / kNamesFile, names);
+    return certificates;
 }
 
 } // namespace quorva::http

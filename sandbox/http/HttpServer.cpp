@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 #include "HttpServer.h"
 
 #include <utility> // boost 1.74 awaitable.hpp needs std::exchange

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 #pragma once
 
 #include "quorvamedia_global.h"
@@ -130,16 +133,20 @@ public:
     QString dateStringFromString(const QString &timestamp) const;
 
     /// Requests the page of offers that starts at the offset, sorted and filtered as
-    /// given (empty: the service's default; featured: only featured offers).
+    /// given (empty: the service's default; featured: only featured offers). subId1 must
+    /// be set: a null one stops the program (qFatal, in every build type).
     void fetchOffers(quint64 offset, const QString &sortby, const QString &category, bool featured,
                      OffersCallback callback, FailureCallback failure);
-    /// Requests the publisher's profile.
+    /// Requests the publisher's profile. It goes over plain http (the service serves the
+    /// profile there), to the same host and port as the others; an unknown profile (404)
+    /// calls neither callback.
     void fetchProfile(ProfileCallback callback, FailureCallback failure);
     /// Requests the offer categories.
     void fetchCategories(CategoriesCallback callback, FailureCallback failure);
     /// Requests the user's credited history; "no content" is an empty history.
     void fetchHistory(HistoryCallback callback, FailureCallback failure);
-    /// Files a support ticket. Name, e-mail and subject must be set; the offer name and
+    /// Files a support ticket. Name, e-mail and subject must be set (a null one stops the
+    /// program, qFatal, in every build type); the offer name and
     /// completion date go only when not empty. Succeeds only when the service answers
     /// 201; a failure never sends the ticket again.
     void createSupportTicket(const QString &name, const QString &emailId, const QString &subject,

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 #include "QVEmailViewController.h"
 #include "QVEmailViewControllerPrivate.h"
 #include "AssignIfChanged.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // The ticket form's second half: validating, sending and clearing.
 #include "QVEmailViewController.h"
 #include "QVEmailViewControllerPrivate.h"

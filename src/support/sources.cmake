@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 QuorvaMedia
+# SPDX-License-Identifier: Apache-2.0
+
 # The support centre: FAQ, credited history and the support-ticket form.
 list(APPEND QUORVA_PUBLIC_HEADERS
     support/QVSupportViewController.h

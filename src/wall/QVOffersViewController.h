@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 #pragma once
 
 #include "quorvamedia_global.h"
@@ -54,11 +57,16 @@ class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
     /// The wall's identifier within the publisher's account. Shared like #pubId.
     Q_PROPERTY(QString corvelId READ corvelId WRITE setCorvelId NOTIFY identifiersChanged FINAL)
     /// The host's identifier of its user, sent with every request. Shared like #pubId.
+    /// Required: a wall loading without one stops the program (qFatal, in every build
+    /// type), since the offers request cannot name its user. An empty string is a value.
     Q_PROPERTY(QString subId1 READ subId1 WRITE setSubId1 NOTIFY identifiersChanged FINAL)
-    /// The user's gender for targeting: 0 none, 1 female, 2 male. Write-only in effect:
+    /// The user's gender for targeting: 0 sends "m" (male), 1 sends "f" (female), any
+    /// other value (-1, say) clears it, and no gender is sent. Write-only in effect:
     /// reading gives the initial 0, the value goes to the shared client.
     Q_PROPERTY(int gender READ gender WRITE setGender NOTIFY targetingChanged FINAL)
-    /// The user's age range for targeting, 0 when none. Write-only in effect, like #gender.
+    /// The user's age range for targeting, one of the service's five ranges: 0 to 4 send
+    /// the range ids "1" to "5", any other value (-1, say) clears it, and no age range is
+    /// sent. Write-only in effect, like #gender.
     Q_PROPERTY(int ageRange READ ageRange WRITE setAgeRange NOTIFY targetingChanged FINAL)
     /// Extra values the host passes through to the service. Write-only in effect, like #gender.
     Q_PROPERTY(QString subid2 READ subid2 WRITE setSubid2 NOTIFY targetingChanged FINAL)
@@ -141,7 +149,11 @@ public:
 
     /// Creates a wall for the identifiers, with an optional delegate (not owned). The caller
     /// owns the wall: parent it into a window's content item and size it. Takes a ready
-    /// preload for the same identifiers. Call on the GUI thread.
+    /// preload for the same identifiers. Call on the GUI thread. Returns null when the
+    /// wall's interface cannot be loaded, which happens when the app was shipped without
+    /// a Qt Quick module the wall imports (the README's "Shipping" lists them); the reason
+    /// goes to the quorva.diagnostics category. A null subId1 stops the program when the
+    /// wall loads, like #subId1 says.
     static QVOffersViewController *newOffersWallForPublisherId(const QString &pubId, const QString &corvelId,
                                                                const QString &subId1,
                                                                QVOffersViewControllerDelegate *delegate);

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // The wall's two overlays, the filter panel and the support centre: on a phone they
 // slide over the list under the header; on a tablet they are popovers under their button.
 #include "QVOffersViewController.h"

@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 QuorvaMedia
+# SPDX-License-Identifier: Apache-2.0
+
 # Screens, cells, UI utilities and the interface files they are laid out by.
 list(APPEND QUORVA_PUBLIC_HEADERS
     wall/QVOffersViewController.h

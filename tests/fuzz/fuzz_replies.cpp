@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // Every reply parser on arbitrary bytes, under AddressSanitizer and
 // UndefinedBehaviorSanitizer, and the two readers of the offers reply against each other:
 // whenever the one-pass reader gives records, they are the general reader's records,

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // The fuzz target's input function over the files of the given folders, without libFuzzer:
 // every build replays the corpus, with gcc as well as clang and on every processor the
 // suites run on (on arm64 a plain char is unsigned).

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 import QtQuick
 import QuorvaMedia
 
@@ -20,7 +23,7 @@ Item {
         language: "de"
         onClosePressed: console.log(offerCount, loadFailed, rightToLeft)
         onOffersShown: console.log(creditNoticeShown, creditNoticeText, creditNoticeDetail)
-        onOfferOpened: offer => console.log(offer.name)
+        onOfferOpened: offer => console.log(offer.offerName)
         onCreditNoticeChanged: console.log(QVTheme.light().isDark, QVTheme.dark().accent)
         Component.onCompleted: {
             QVDevice.userInterfaceIdiom = QVDevice.Phone

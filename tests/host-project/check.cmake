@@ -1,3 +1,6 @@
+# SPDX-FileCopyrightText: 2026 QuorvaMedia
+# SPDX-License-Identifier: Apache-2.0
+
 # Installs the library into a scratch prefix, then configures, builds and runs a host
 # project that finds it with find_package, builds the examples against it, and lints the
 # examples' QML and every documented wall property against the installed QML module.
@@ -18,7 +21,7 @@ endforeach()
 # earlier ones declared), compiled by the host project; every QML snippet linted.
 file(READ ${SOURCE_DIR}/README.md readme)
 set(snippets "#include <QuorvaMedia/QuorvaMedia.h>\n#include <QtCore/QPointer>\n#include <QtGui/QGuiApplication>\n#include <QtQuick/QQuickWindow>\n\n")
-string(APPEND snippets "[[maybe_unused]] void readmeSnippets(QGuiApplication &app, const QString &userId)\n{\n")
+string(APPEND snippets "[[maybe_unused]] int readmeSnippets(QGuiApplication &app, const QString &userId)\n{\n")
 set(qml_snippets "")
 set(index 0)
 while(TRUE)
@@ -44,7 +47,7 @@ while(TRUE)
         list(APPEND qml_snippets ${WORK_DIR}/readme-${index}.qml)
     endif()
 endwhile()
-string(APPEND snippets "}\n")
+string(APPEND snippets "return 0;\n}\n")
 file(WRITE ${WORK_DIR}/readme_snippets.cpp "${snippets}")
 
 set(flags "")
@@ -73,6 +76,28 @@ foreach(qml ${SOURCE_DIR}/examples/minimal-qml/Main.qml ${SOURCE_DIR}/examples/f
     execute_process(COMMAND ${QMLLINT} -I ${prefix}/lib/qml ${qml} RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE out)
     if(NOT rc EQUAL 0 OR NOT out STREQUAL "")
         message(FATAL_ERROR "qmllint of ${qml} against the installed module:\n${out}")
+    endif()
+endforeach()
+# What qmllint cannot tell: a member of a handler's parameter or of one of the module's
+# singletons that the installed module does not declare, in the examples, the README and
+# the QML reference.
+find_program(PYTHON3 python3 REQUIRED)
+execute_process(COMMAND ${PYTHON3} ${SOURCE_DIR}/tests/host-project/check-qml-members.py
+                        ${prefix}/lib/qml/QuorvaMedia/QuorvaMedia.qmltypes ${SOURCE_DIR}/examples/minimal-qml/Main.qml
+                        ${SOURCE_DIR}/examples/full-qml/Main.qml ${SOURCE_DIR}/tests/host-project/EveryWallProperty.qml
+                        ${SOURCE_DIR}/README.md ${SOURCE_DIR}/docs/qml-types.md ${qml_snippets}
+                RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE out)
+if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "QML that names what the installed module does not have:\n${out}")
+endif()
+# Qt's deployment tools (androiddeployqt, macdeployqt) find what to ship through the import
+# scanner: from a QML-only host it must reach every module the wall's own files import.
+execute_process(COMMAND ${QMLIMPORTSCANNER} -rootPath ${SOURCE_DIR}/examples/minimal-qml
+                        -importPath ${prefix}/lib/qml -importPath ${QT_QML_DIR}
+                RESULT_VARIABLE rc OUTPUT_VARIABLE imports ERROR_QUIET)
+foreach(module QuorvaMedia QtQuick QtQuick.Controls.Basic QtQuick.Controls.impl Qt5Compat.GraphicalEffects Qt.labs.qmlmodels)
+    if(NOT rc EQUAL 0 OR NOT imports MATCHES "\"name\": \"${module}\"")
+        message(FATAL_ERROR "qmlimportscanner on examples/minimal-qml does not list ${module}:\n${imports}")
     endif()
 endforeach()
 # Each example is built against the installed package and run against a sandbox until its

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // quorva-monkey: a real wall in a real window against the sandbox, driven by random
 // actions from a seed while the sandbox changes its faults at random. After every action
 // it checks what a host relies on; it prints its seed, and the same seed replays the

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // A host's whole life: an application, a wall on screen with its pictures over TLS, and
 // the end of the program. Whatever Qt prints on the way goes to standard error.
 #include "SandboxProcess.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // Calls a request of the client without one of its required values; the client must
 // stop the program. Run by tst_QuorvaRestAPI as a child process.
 #include <QuorvaMedia/QuorvaMedia.h>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 #include "ScriptedServer.h"
 #include "Certificates.h"
 
@@ -11,7 +14,7 @@ using quorva::http::HttpResponse;
 
 ScriptedServer::ScriptedServer()
 {
-    const auto certificates = quorva::http::generateLoopbackCertificates();
+    const auto certificates = quorva::http::generateCertificates();
     m_ca = QSslCertificate::fromData(QByteArray::fromStdString(certificates.caCertificatePem));
     m_script = [](const HttpRequest &) { return HttpResponse::json(200, "{}"); };
     m_server = std::make_unique<quorva::http::HttpServer>(

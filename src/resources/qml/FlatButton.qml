@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 import QtQuick
 
 // A filled button in plain Qt Quick for screens that load no control style.

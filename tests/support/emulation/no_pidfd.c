@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
 // Preloaded into test programs that run under qemu's user-mode emulation. qemu 7.2 answers
 // waitid(P_PIDFD) but does not implement clone() with CLONE_PIDFD, so QProcess, having
 // seen the first, fails every start on the second. Answering the probe as a kernel without

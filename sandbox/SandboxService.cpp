@@ -109,15 +109,24 @@ SandboxService::SandboxService(SandboxStore &store, FaultOptions faults,
 HttpResponse SandboxService::handle(const HttpRequest &request)
 {
     HttpResponse response;
-    try {
-        response = route(request);
-    } catch (const std::exception &e) {
-        response = error(500, e.what());
+    const FaultOptions &faults = currentFaults();
+    const bool matches = faults.pathFilter.empty() || request.path.find(faults.pathFilter) != std::string::npos;
+    if (matches && faults.dropReused && request.sequence > 0) {
+        // Read, then hung up on before it is handled: what a kept connection that dies
+        // under a request looks like to the client.
+        response.fault = HttpResponse::Fault::DropConnection;
+    } else {
+        try {
+            response = route(request);
+        } catch (const std::exception &e) {
+            response = error(500, e.what());
+        }
+        applyFaults(request, response);
     }
-    applyFaults(request, response);
     if (m_log) {
         std::string line = request.method + " " + request.target + " -> " + std::to_string(response.status)
-            + (request.tls ? " (https)" : " (http)");
+            + (request.tls ? " (https" : " (http") + ", connection " + std::to_string(request.connection)
+            + " request " + std::to_string(request.sequence + 1) + ")";
         if (response.fault == HttpResponse::Fault::DropConnection)
             line += " [dropped]";
         m_log(line);
@@ -147,6 +156,10 @@ FaultOptions FaultOptions::parse(const std::string &text)
             faults.forcedStatus = int(number);
         else if (key == "body")
             faults.body = value == "truncated" ? Body::Truncated : value == "not-json" ? Body::NotJson : Body::Intact;
+        else if (key == "close-idle")
+            faults.closeIdle = number != 0;
+        else if (key == "drop-reused")
+            faults.dropReused = number != 0;
         else if (key == "path")
             faults.pathFilter = value;
     }
@@ -183,6 +196,8 @@ void SandboxService::applyFaults(const HttpRequest &request, HttpResponse &respo
         response.contentType = "application/json";
         response.body = response.status == 204 ? std::string() : R"({"error":"forced status"})";
     }
+    if (faults.closeIdle)
+        response.fault = HttpResponse::Fault::CloseAfterAnswer;
     if (faults.body == FaultOptions::Body::NotJson) {
         response.contentType = "text/html";
         response.body = "<html><body>Service temporarily unavailable</body></html>";

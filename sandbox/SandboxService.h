@@ -24,11 +24,13 @@ struct FaultOptions
     int dropEvery = 0;                  // drop every Nth matching request
     std::optional<int> forcedStatus;
     enum class Body { Intact, Truncated, NotJson } body = Body::Intact;
+    bool closeIdle = false;             // close each kept connection after its answer
+    bool dropReused = false;            // hang up, unanswered, on a request a kept connection brought
     std::string pathFilter;
 
     // The same faults as text, one "key=value" a line: latency (ms), drop (0 or 1),
-    // drop-every, status, body (intact, truncated or not-json) and path. Unknown keys
-    // and values are ignored.
+    // drop-every, status, body (intact, truncated or not-json), close-idle (0 or 1),
+    // drop-reused (0 or 1) and path. Unknown keys and values are ignored.
     static FaultOptions parse(const std::string &text);
 };
 

@@ -57,12 +57,16 @@ int main(int argc, char **argv)
     const QCommandLineOption body(QStringLiteral("broken-body"), QStringLiteral("Break reply bodies: truncated or not-json."), QStringLiteral("kind"));
     const QCommandLineOption faultFile(QStringLiteral("fault-file"), QStringLiteral("Read faults from this file on every request, so they can change while running (key=value lines: latency, drop, drop-every, status, body, path)."), QStringLiteral("file"));
     const QCommandLineOption faultPath(QStringLiteral("fault-path"), QStringLiteral("Apply faults only to paths containing this text."), QStringLiteral("text"));
+    const QCommandLineOption closeIdle(QStringLiteral("close-idle"), QStringLiteral("Close each kept-alive connection after its answer, as an idle time-out would."));
+    const QCommandLineOption dropReused(QStringLiteral("drop-reused"), QStringLiteral("Hang up, unanswered, on every request that arrives on a kept-alive connection."));
+    const QCommandLineOption requestsPerConnection(QStringLiteral("requests-per-connection"), QStringLiteral("Close a kept-alive connection after this many requests."), QStringLiteral("n"), QStringLiteral("100"));
     const QCommandLineOption quiet(QStringLiteral("quiet"), QStringLiteral("Do not log requests."));
     const QCommandLineOption requestLog(QStringLiteral("request-log"), QStringLiteral("Also append each request's line to this file."), QStringLiteral("file"));
     const QCommandLineOption handshakeTimeout(QStringLiteral("handshake-timeout"), QStringLiteral("Close a connection whose TLS handshake takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("10000"));
     const QCommandLineOption headerTimeout(QStringLiteral("header-timeout"), QStringLiteral("Close a connection whose next request head takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("15000"));
     const QCommandLineOption bodyTimeout(QStringLiteral("body-timeout"), QStringLiteral("Close a connection whose request body takes longer (ms)."), QStringLiteral("ms"), QStringLiteral("30000"));
     parser.addOptions({address, name, port, dataDir, caOut, latency, drop, dropEvery, status, body, faultPath, faultFile, quiet,
+                       closeIdle, dropReused, requestsPerConnection,
                        handshakeTimeout, headerTimeout, bodyTimeout, requestLog});
     parser.process(app);
 
@@ -81,6 +85,8 @@ int main(int argc, char **argv)
         return 2;
     }
     faults.pathFilter = parser.value(faultPath).toStdString();
+    faults.closeIdle = parser.isSet(closeIdle);
+    faults.dropReused = parser.isSet(dropReused);
 
     try {
         const std::string directory = QDir(parser.value(dataDir)).absolutePath().toStdString();
@@ -111,6 +117,7 @@ int main(int argc, char **argv)
         limits.handshake = std::chrono::milliseconds(parser.value(handshakeTimeout).toInt());
         limits.header = std::chrono::milliseconds(parser.value(headerTimeout).toInt());
         limits.body = std::chrono::milliseconds(parser.value(bodyTimeout).toInt());
+        limits.requestsPerConnection = std::max(1u, parser.value(requestsPerConnection).toUInt());
         http::HttpServer server([&service](const http::HttpRequest &r) { return service.handle(r); },
                                 certificates.server, limits);
         const auto bound = server.listen(parser.value(address).toStdString(),

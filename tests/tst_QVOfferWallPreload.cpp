@@ -97,8 +97,8 @@ private slots:
         WallHarness harness;
         QVERIFY(harness.showFirstPage());
         QTRY_COMPARE(harness.find(QStringLiteral("headerTitle"))->property("text").toString(), QStringLiteral("Earn Gems"));
-        QCOMPARE(m_service.requestsTo("/offers.json"), 2);
-        QCOMPARE(m_service.requestsTo("/details.json"), 2);
+        QCOMPARE(m_service.callsTo(FakeOfferService::Offers), 2);
+        QCOMPARE(m_service.callsTo(FakeOfferService::Profile), 2);
         const QMap<QString, QString> sent = m_service.offersQueries().last();
         if (!sentPair.isEmpty())
             QCOMPARE(sent.value(sentPair.section(u'=', 0, 0)), sentPair.section(u'=', 1));
@@ -108,7 +108,7 @@ private slots:
         // Dropped: a later wall does not find it either.
         WallHarness second;
         QVERIFY(second.showFirstPage());
-        QCOMPARE(m_service.requestsTo("/offers.json"), 3);
+        QCOMPARE(m_service.callsTo(FakeOfferService::Offers), 3);
     }
 
     void wallWaitsForAPreloadStillUnderWay()

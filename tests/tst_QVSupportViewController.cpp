@@ -380,7 +380,7 @@ private slots:
         QCOMPARE(empty->property("text").toString(), QStringLiteral("No offers completed yet"));
         QVERIFY(rowsOf(history).isEmpty());
         QVERIFY(!harness.wall->findChild<QObject *>(QStringLiteral("alert")));
-        QCOMPARE(m_service.requestsTo("/transactions.json"), 1);
+        QCOMPARE(m_service.callsTo(FakeOfferService::History), 1);
     }
 
 private:

@@ -5,6 +5,9 @@
 #include "CallbackProbe.h"
 #include "LogCapture.h"
 #include "FakeOfferService.h"
+#include "Http2Proxy.h"
+#include "HttpTransport.h"
+#include "LatencyRelay.h"
 
 #include <QuorvaMedia/QuorvaMedia.h>
 #include "ServiceTimestamp.h"
@@ -448,8 +451,10 @@ private slots:
         QTest::newRow("body under the cap") << int(Kind::Offers) << Fault::None << 900 * 1024 << QString();
     }
 
-    // Each call sends one request and ends once, later and on the GUI thread, however the
-    // transfer breaks: a connection that drops or stalls, a body cut short, a reply with no end.
+    // Each call ends once, later and on the GUI thread, however the transfer breaks: a
+    // connection that drops or stalls, a body cut short, a reply with no end. A GET that a
+    // kept connection lost before any byte of its reply goes once more, on a fresh
+    // connection; a ticket never goes twice.
     void faultyTransfersEndOnce()
     {
         QFETCH(int, kind);
@@ -480,9 +485,129 @@ private slots:
         QTRY_VERIFY(probe.finished());
         QCOMPARE(probe.successes, warning.isNull() ? 1 : 0);
         QCOMPARE(probe.failures, warning.isNull() ? 0 : 1);
-        QCOMPARE(m_server.requestCount(), 1);
+        const auto sent = m_server.requests();
+        // Resent when a kept connection lost it (the profile's plain http may have none kept).
+        const bool resent = fault == HttpResponse::Fault::DropConnection && Kind(kind) != Kind::Ticket
+            && sent.front().sequence > 0;
+        QCOMPARE(int(sent.size()), resent ? 2 : 1);
+        QVERIFY(resent || Kind(kind) == Kind::Profile || fault != HttpResponse::Fault::DropConnection
+                || Kind(kind) == Kind::Ticket);
+        // The ticket and the resend go on fresh connections; the warm one took the first.
+        if (resent || Kind(kind) == Kind::Ticket)
+            QCOMPARE(sent.back().sequence, 0);
+        if (resent)
+            QVERIFY(sent.front().sequence > 0);
         QVERIFY(!probe.ranBeforeReturn); // callbacks run later, on the GUI thread
         QVERIFY(!probe.ranOffGuiThread);
+
+        // Nothing broken is reused: the next request goes on a connection that never failed.
+        m_server.respond(200, "[]");
+        m_server.clearRequests();
+        CallbackProbe next;
+        start(Kind::Categories, next);
+        QTRY_VERIFY(next.finished());
+        QCOMPARE(next.successes, 1);
+        QCOMPARE(m_server.requestCount(), 1);
+        if (!warning.isNull())
+            QVERIFY(m_server.lastRequest().connection != sent.back().connection);
+    }
+
+    // Pages, filter changes and the history go on a kept connection: one round trip, not
+    // three. One that the service closed while idle costs nothing; its requests are capped.
+    void requestsShareKeptConnections()
+    {
+        m_server.respond(200, "{}");
+        const auto one = [this](Kind kind) {
+            CallbackProbe probe;
+            start(kind, probe);
+            return QTest::qWaitFor([&] { return probe.finished(); }, kPatienceMs) && probe.successes == 1;
+        };
+        QVERIFY(one(Kind::Offers));
+        for (Kind kind : {Kind::Offers, Kind::Categories, Kind::History, Kind::Offers})
+            QVERIFY(one(kind));
+        const auto sent = m_server.requests();
+        QCOMPARE(int(sent.size()), 5);
+        for (const HttpRequest &request : sent)
+            QCOMPARE(request.connection, sent.front().connection);
+        QCOMPARE(sent.back().sequence, sent.front().sequence + 4);
+
+        // Closed by the service after its answer, as an idle time-out does: the next
+        // request finds that out before sending and goes on a new connection, once.
+        m_server.respond([](const HttpRequest &) {
+            HttpResponse response = HttpResponse::json(200, "[]");
+            response.fault = HttpResponse::Fault::CloseAfterAnswer;
+            return response;
+        });
+        m_server.clearRequests();
+        QVERIFY(one(Kind::Categories));
+        QVERIFY(one(Kind::Categories));
+        QCOMPARE(m_server.requestCount(), 2);
+        QVERIFY(m_server.requests()[0].connection != m_server.requests()[1].connection);
+
+        // The ticket never rides a kept connection, nor leaves one behind.
+        m_server.respond(201, R"({"ticket_id":7})");
+        m_server.clearRequests();
+        QVERIFY(one(Kind::Ticket));
+        QVERIFY(one(Kind::Offers));
+        QCOMPARE(m_server.requestCount(), 2);
+        QVERIFY(m_server.requests()[0].connection != m_server.requests()[1].connection);
+        QCOMPARE(m_server.requests()[0].sequence, 0);
+    }
+
+    // Over HTTP/2 (nghttpx terminating TLS with ALPN h2, in front of the scripted service)
+    // the wall's requests share one connection, and replies read as over HTTP/1.1.
+    void http2SharesOneConnectionAndReadsTheSame()
+    {
+        Http2Proxy h2(m_server.port());
+        QVERIFY2(h2.isRunning(), qPrintable(h2.output()));
+        LatencyRelay counter(h2.port(), std::chrono::milliseconds(0));
+        QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
+        api->addCaCertificates(h2.caCertificates());
+        const QString direct = m_server.baseAddress();
+        const QString multiplexed = QStringLiteral("127.0.0.1:%1").arg(counter.port());
+        const QByteArray page = R"({"offers":[{"offer_id":"1","name":"A","currency_count":5},{"name":"B"}]})";
+
+        // The opening wall's offers, categories and history at once: one connection.
+        m_server.respond(200, page);
+        api->setServiceBaseAddress(multiplexed);
+        CallbackProbe opening;
+        for (Kind kind : {Kind::Offers, Kind::Categories, Kind::History, Kind::Offers})
+            start(kind, opening);
+        QTRY_COMPARE(opening.successes, 4);
+        QCOMPARE(counter.connectionsAccepted(), 1);
+
+        // Each status and body reads the same through either; so does a body cut short.
+        auto outcome = [&](const QString &base, int status, const QByteArray &body, HttpResponse::Fault fault) {
+            api->setServiceBaseAddress(base);
+            m_server.respond([=](const HttpRequest &) {
+                HttpResponse response = HttpResponse::json(status, body.toStdString());
+                response.fault = fault;
+                return response;
+            });
+            // Shared with the callbacks, which may come after a failed wait.
+            auto result = std::make_shared<QString>(QStringLiteral("none"));
+            api->fetchOffers(0, {}, {}, false, [result](const QList<QVOffer> &offers, bool more) {
+                *result = QStringLiteral("%1 offers, more %2").arg(offers.size()).arg(more);
+            }, [result] { *result = QStringLiteral("failed"); });
+            if (!QTest::qWaitFor([&] { return *result != QLatin1String("none"); }, kPatienceMs))
+                return QStringLiteral("no callback");
+            return *result;
+        };
+        using Fault = HttpResponse::Fault;
+        const struct { int status; QByteArray body; Fault fault; } replies[] = {
+            {200, page, Fault::None}, {204, "", Fault::None}, {404, R"({"error":"no"})", Fault::None},
+            {500, "<html>down</html>", Fault::None}, {200, page, Fault::TruncateBody}};
+        for (const auto &reply : replies) {
+            const QString overHttp1 = outcome(direct, reply.status, reply.body, reply.fault);
+            QCOMPARE(outcome(multiplexed, reply.status, reply.body, reply.fault), overHttp1);
+        }
+        QCOMPARE(outcome(multiplexed, 200, page, Fault::TruncateBody), QStringLiteral("failed"));
+
+        // A kept connection that the network dropped while idle costs no failure.
+        counter.dropIdleConnections();
+        QCOMPARE(outcome(multiplexed, 200, page, Fault::None), QStringLiteral("2 offers, more 1"));
+        QVERIFY(counter.connectionsAccepted() >= 2);
+        QVERIFY(counter.mostOpenAtOnce() <= quorva::detail::KeptConnections::kMaximumConnections);
     }
 
     void serviceAddressSaysWhatIsWrong_data()

@@ -186,6 +186,50 @@ private slots:
         QCOMPARE(dnsNames(), (QStringList{"localhost", "other.example"}));
     }
 
+    // The sandbox keeps connections alive, up to a number of requests each, and can close
+    // one while idle or under a request; the client's pages come through every time.
+    void keptConnectionsAndTheirFaults_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QStringList>("expected"); // "connection/request" of each line logged
+        QTest::newRow("kept") << QStringList() << QStringList{"1/1", "1/2", "1/3"};
+        QTest::newRow("two requests a connection") << QStringList{"--requests-per-connection", "2"}
+                                                   << QStringList{"1/1", "1/2", "2/1"};
+        QTest::newRow("closed while idle") << QStringList{"--close-idle"} << QStringList{"1/1", "2/1", "3/1"};
+        // Hung up on under the second request: sent once more, on a fresh connection.
+        QTest::newRow("dropped under a request") << QStringList{"--drop-reused"}
+                                                 << QStringList{"1/1", "1/2", "2/1", "2/2", "3/1"};
+    }
+
+    void keptConnectionsAndTheirFaults()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QStringList, expected);
+        QTemporaryDir logs;
+        const QString log = logs.filePath(QStringLiteral("requests.log"));
+        SandboxProcess sandbox(arguments + QStringList{QStringLiteral("--request-log"), log});
+        QVERIFY(sandbox.isRunning());
+        QuorvaRestAPI::sharedInstance()->addCaCertificates(sandbox.caCertificates());
+        useSandbox(sandbox);
+        for (int page = 0; page < 3; ++page) {
+            CallbackProbe probe;
+            QuorvaRestAPI::sharedInstance()->fetchCategories([&](const QList<QVCategory> &) { ++probe.successes; },
+                                                             probe.failure());
+            QTRY_VERIFY(probe.finished());
+            QCOMPARE(probe.successes, 1);
+        }
+        QFile file(log);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QRegularExpression where(QStringLiteral(R"(connection (\d+) request (\d+))"));
+        QStringList seen;
+        for (const QByteArray &line : file.readAll().split('\n')) {
+            const auto match = where.match(QString::fromUtf8(line));
+            if (match.hasMatch())
+                seen.append(match.captured(1) + u'/' + match.captured(2));
+        }
+        QCOMPARE(seen, expected);
+    }
+
     // An app for children never lists the casino's offers, through the client as raw.
     void aChildIsOfferedNothingOfTheCasino()
     {

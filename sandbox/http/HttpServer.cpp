@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "HttpServer.h"
+#include <fcntl.h>
 
 #include <utility> // boost 1.74 awaitable.hpp needs std::exchange
 
@@ -133,6 +134,7 @@ struct HttpServer::Impl
     asio::ssl::context tls{asio::ssl::context::tls_server};
     tcp::acceptor acceptor{io};
     std::thread thread;
+    std::uint64_t connections = 0; // only the I/O thread counts
 
     asio::awaitable<void> acceptLoop()
     {
@@ -143,6 +145,9 @@ struct HttpServer::Impl
                 // Answers go out as soon as they are written, not after the peer's
                 // delayed acknowledgement of the previous piece.
                 socket.set_option(tcp::no_delay(true), ec);
+                // Not handed to programs started later (a proxy, a probe): one that held a
+                // copy would keep open every connection this server closes.
+                ::fcntl(socket.native_handle(), F_SETFD, FD_CLOEXEC);
                 asio::co_spawn(io, session(std::move(socket)), asio::detached);
                 continue;
             }
@@ -156,6 +161,7 @@ struct HttpServer::Impl
 
     asio::awaitable<void> session(tcp::socket socket)
     {
+        const std::uint64_t connection = ++connections;
         try {
             beast::tcp_stream stream(std::move(socket));
             beast::flat_buffer buffer;
@@ -167,9 +173,9 @@ struct HttpServer::Impl
                 const std::size_t used = co_await secure.async_handshake(
                     asio::ssl::stream_base::server, buffer.data(), use_awaitable);
                 buffer.consume(used);
-                co_await serve(secure, buffer, true);
+                co_await serve(secure, buffer, true, connection);
             } else {
-                co_await serve(stream, buffer, false);
+                co_await serve(stream, buffer, false, connection);
             }
         } catch (const std::exception &) {
             // A peer that goes away, stalls or speaks nonsense ends its own session only.
@@ -208,10 +214,10 @@ struct HttpServer::Impl
     }
 
     template <typename Stream>
-    asio::awaitable<void> serve(Stream &stream, beast::flat_buffer &buffer, bool isTls)
+    asio::awaitable<void> serve(Stream &stream, beast::flat_buffer &buffer, bool isTls, std::uint64_t connection)
     {
         auto &lowest = beast::get_lowest_layer(stream);
-        for (;;) {
+        for (int sequence = 0;; ++sequence) {
             bhttp::request_parser<bhttp::string_body> parser;
             parser.header_limit(limits.headerBytes);
             parser.body_limit(limits.bodyBytes);
@@ -244,6 +250,8 @@ struct HttpServer::Impl
             }
             request.body = message.body();
             request.tls = isTls;
+            request.connection = connection;
+            request.sequence = sequence;
 
             HttpResponse reply = handler(request);
             if (reply.delay.count() > 0) {
@@ -284,7 +292,8 @@ struct HttpServer::Impl
             for (const auto &[name, value] : reply.headers)
                 response.set(name, value);
             response.body() = std::move(reply.body);
-            response.keep_alive(message.keep_alive());
+            // A connection serves a bounded number of requests; the last says so.
+            response.keep_alive(message.keep_alive() && std::uint32_t(sequence + 1) < limits.requestsPerConnection);
             response.prepare_payload();
 
             if (reply.fault == HttpResponse::Fault::TruncateBody || reply.fault == HttpResponse::Fault::StallMidBody) {
@@ -304,6 +313,10 @@ struct HttpServer::Impl
             const bool keepAlive = response.keep_alive();
             lowest.expires_after(limits.write);
             co_await bhttp::async_write(stream, response, use_awaitable);
+            if (reply.fault == HttpResponse::Fault::CloseAfterAnswer) {
+                lowest.socket().close();
+                co_return;
+            }
             if (!keepAlive) {
                 lowest.socket().shutdown(tcp::socket::shutdown_send);
                 co_return;
@@ -335,6 +348,7 @@ std::uint16_t HttpServer::listen(const std::string &address, std::uint16_t port)
     d->acceptor.set_option(asio::socket_base::reuse_address(true));
     d->acceptor.bind(endpoint);
     d->acceptor.listen();
+    ::fcntl(d->acceptor.native_handle(), F_SETFD, FD_CLOEXEC);
     asio::co_spawn(d->io, d->acceptLoop(), asio::detached);
     return d->acceptor.local_endpoint().port();
 }

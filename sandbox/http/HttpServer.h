@@ -22,6 +22,8 @@ struct HttpRequest
     std::map<std::string, std::string> headers; // names in lower case
     std::string body;
     bool tls = false;
+    std::uint64_t connection = 0; // which connection it came on, counted from 1
+    int sequence = 0;             // how many requests came before it on that connection
 
     std::string header(const std::string &lowerCaseName) const;
     // Query pairs split on "&" and "=", values percent-decoded; the first of a key wins.
@@ -38,6 +40,7 @@ struct HttpResponse
         StallMidBody,       // send the head and half the body, then wait
         EndlessBody,        // a chunked body that never ends
         EndlessHeaders,     // a status line followed by header lines without end
+        CloseAfterAnswer,   // answer in full, keep-alive announced, then close as if idle
     };
 
     int status = 200;
@@ -68,6 +71,7 @@ struct ServerLimits
     std::chrono::milliseconds header{15000};      // the next request's head (also idle keep-alive)
     std::chrono::milliseconds body{30000};        // the request body
     std::chrono::milliseconds write{30000};       // sending the answer
+    std::uint32_t requestsPerConnection = 100;    // the last one is answered with "close"
     std::uint32_t headerBytes = 16 * 1024;
     std::uint64_t bodyBytes = 1024 * 1024;
 };

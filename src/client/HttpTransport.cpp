@@ -10,8 +10,11 @@
 #include <openssl/x509.h>
 #include <openssl/x509_vfy.h>
 
+#include <future>
+#include <map>
 #include <memory>
 #include <mutex>
+#include <thread>
 
 namespace quorva::detail {
 
@@ -160,87 +163,226 @@ bool HttpTransport::isSendableAddress(const QString &address)
     return true;
 }
 
-TransferResult HttpTransport::perform(const TransferRequest &request)
+namespace {
+// Everything one exchange sets on its handle, whichever way it goes on the wire.
+struct Exchange
 {
-    Shared &state = shared();
-    TransferResult result;
+    explicit Exchange(const TransferRequest &request) : request(request), address(request.address.toLatin1())
+    {
+        reception.limit = request.maximumReplySize;
+    }
+
+    const TransferRequest &request;
+    QByteArray address;
+    const QByteArray contentType = "Content-Type: " + request.contentType;
+    Reception reception;
     // Declared before the handle so that it outlives the handle's clean-up.
     char reason[CURL_ERROR_SIZE] = {};
-    std::unique_ptr<CURL, HandleDeleter> handle(curl_easy_init());
-    if (!handle)
+    std::unique_ptr<curl_slist, ListDeleter> headers;
+    std::unique_ptr<CURL, HandleDeleter> handle{curl_easy_init()};
+
+    // How often the request went on the wire, and whether the library's own resend after
+    // a dead kept connection was stopped because it would have used another kept one.
+    int sends = 0;
+    bool resendOnFreshConnection = false;
+
+    // Called before each send: a request goes out once, and a GET once more, on a fresh
+    // connection, after a reused one lost it before any byte of the reply. The library
+    // would try every kept connection in turn.
+    static int beforeSending(void *user, char *, char *, int, int)
+    {
+        auto *exchange = static_cast<Exchange *>(user);
+        long freshConnections = 0;
+        curl_easy_getinfo(exchange->handle.get(), CURLINFO_NUM_CONNECTS, &freshConnections);
+        const bool resend = exchange->sends == 1 && exchange->request.method != "POST";
+        if (exchange->sends == 0 || (resend && freshConnections > 0)) {
+            ++exchange->sends;
+            return CURL_PREREQFUNC_OK;
+        }
+        exchange->resendOnFreshConnection = resend;
+        return CURL_PREREQFUNC_ABORT;
+    }
+
+    bool configure()
+    {
+        CURL *curl = handle.get();
+        if (!curl)
+            return false;
+        curl_easy_setopt(curl, CURLOPT_PREREQFUNCTION, &Exchange::beforeSending);
+        curl_easy_setopt(curl, CURLOPT_PREREQDATA, this);
+        curl_easy_setopt(curl, CURLOPT_URL, address.constData());
+        curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http,https");
+        // The address goes out as written: no dot-segment folding, no proxy from the
+        // environment, no redirects followed.
+        curl_easy_setopt(curl, CURLOPT_PATH_AS_IS, 1L);
+        curl_easy_setopt(curl, CURLOPT_PROXY, "");
+        curl_easy_setopt(curl, CURLOPT_FOLLOWLOCATION, 0L);
+        curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
+        curl_easy_setopt(curl, CURLOPT_TIMEOUT_MS, long(request.timeout.count()));
+        curl_easy_setopt(curl, CURLOPT_MAXFILESIZE_LARGE, curl_off_t(request.maximumReplySize));
+        curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &onBody);
+        curl_easy_setopt(curl, CURLOPT_WRITEDATA, &reception);
+        curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &onHeader);
+        curl_easy_setopt(curl, CURLOPT_HEADERDATA, &reception);
+        curl_easy_setopt(curl, CURLOPT_USERAGENT, request.userAgent.constData());
+        curl_easy_setopt(curl, CURLOPT_ERRORBUFFER, reason);
+        // Verification stays on; the authorities come from the shared store, not from
+        // files the library would read for this connection.
+        curl_easy_setopt(curl, CURLOPT_SHARE, shared().share);
+        curl_easy_setopt(curl, CURLOPT_CAINFO, nullptr);
+        curl_easy_setopt(curl, CURLOPT_CAPATH, nullptr);
+        // The kept connections' multi handle would otherwise keep the first store it saw
+        // for a day and put it back over ours: authorities added later would not count.
+        curl_easy_setopt(curl, CURLOPT_CA_CACHE_TIMEOUT, 0L);
+        curl_easy_setopt(curl, CURLOPT_SSL_CTX_FUNCTION, &onTlsContext);
+        curl_easy_setopt(curl, CURLOPT_SSL_CTX_DATA, trustStore().storeFor(request.extraAuthorities));
+
+        // Only the headers that belong to the request: no Accept, no Expect handshake.
+        curl_slist *list = curl_slist_append(nullptr, "Accept:");
+        list = curl_slist_append(list, "Expect:");
+        if (!request.contentType.isEmpty())
+            list = curl_slist_append(list, contentType.constData());
+        headers.reset(list);
+        curl_easy_setopt(curl, CURLOPT_HTTPHEADER, list);
+
+        if (request.method == "POST") {
+            // A ticket goes on a fresh connection that is closed after it: a reused one
+            // that turns out dead would make the library send it again.
+            curl_easy_setopt(curl, CURLOPT_FRESH_CONNECT, 1L);
+            curl_easy_setopt(curl, CURLOPT_FORBID_REUSE, 1L);
+            curl_easy_setopt(curl, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
+            curl_easy_setopt(curl, CURLOPT_POST, 1L);
+            curl_easy_setopt(curl, CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t(request.body.size()));
+            curl_easy_setopt(curl, CURLOPT_POSTFIELDS, request.body.constData());
+        } else {
+            curl_easy_setopt(curl, CURLOPT_HTTPGET, 1L);
+            // GETs share the kept connections: HTTP/2 where the service offers it by
+            // ALPN (the wall's requests then share one connection), HTTP/1.1 otherwise.
+            curl_easy_setopt(curl, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_2TLS));
+            curl_easy_setopt(curl, CURLOPT_PIPEWAIT, 1L);
+            curl_easy_setopt(curl, CURLOPT_MAXAGE_CONN, long(KeptConnections::kIdleSeconds));
+        }
+        return true;
+    }
+
+    TransferResult result(CURLcode code) const
+    {
+        TransferResult result;
+        long status = 0;
+        curl_easy_getinfo(handle.get(), CURLINFO_RESPONSE_CODE, &status);
+        if (code == CURLE_OK && status > 0) {
+            result.outcome = TransferResult::Outcome::Answered;
+            result.status = int(status);
+            result.body = reception.body;
+        } else if (code == CURLE_OPERATION_TIMEDOUT) {
+            result.outcome = TransferResult::Outcome::TimedOut;
+        } else if (reception.exceededLimit > 0 || code == CURLE_FILESIZE_EXCEEDED) {
+            result.outcome = TransferResult::Outcome::TooLarge;
+            result.exceededLimit = reception.exceededLimit > 0 ? reception.exceededLimit : request.maximumReplySize;
+        } else if (code == CURLE_PEER_FAILED_VERIFICATION) {
+            result.setupProblem = "the service's certificate is not trusted (" + QByteArray(reason)
+                + "): add its certificate authority (QuorvaRestAPI::addCaCertificates, or caCertificatesFile in QML)";
+        } else if (code == CURLE_COULDNT_RESOLVE_HOST || code == CURLE_URL_MALFORMAT) {
+            result.setupProblem = "the service address does not resolve: it takes \"host\" or \"host:port\"";
+        } else if (code == CURLE_COULDNT_CONNECT) {
+            result.setupProblem = "the service refused the connection: nothing listens at that host and port";
+        }
         return result;
-    CURL *curl = handle.get();
-    Reception reception;
-    reception.limit = request.maximumReplySize;
-
-    const QByteArray address = request.address.toLatin1();
-    curl_easy_setopt(curl, CURLOPT_URL, address.constData());
-    curl_easy_setopt(curl, CURLOPT_PROTOCOLS_STR, "http,https");
-    // The address goes out as written: no dot-segment folding, no proxy from the
-    // environment, no redirects followed.
-    curl_easy_setopt(curl, CURLOPT_PATH_AS_IS, 1L);
-    curl_easy_setopt(curl, CURLOPT_PROXY, "");
-    curl_easy_setopt(curl, CURLOPT_FOLLOWLOCATION, 0L);
-    // A reused connection that turns out dead makes the library send the request again
-    // on a fresh one; with a fresh connection every time, one call is one request.
-    curl_easy_setopt(curl, CURLOPT_FRESH_CONNECT, 1L);
-    curl_easy_setopt(curl, CURLOPT_FORBID_REUSE, 1L);
-    curl_easy_setopt(curl, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
-    curl_easy_setopt(curl, CURLOPT_NOSIGNAL, 1L);
-    curl_easy_setopt(curl, CURLOPT_TIMEOUT_MS, long(request.timeout.count()));
-    curl_easy_setopt(curl, CURLOPT_MAXFILESIZE_LARGE, curl_off_t(request.maximumReplySize));
-    curl_easy_setopt(curl, CURLOPT_WRITEFUNCTION, &onBody);
-    curl_easy_setopt(curl, CURLOPT_WRITEDATA, &reception);
-    curl_easy_setopt(curl, CURLOPT_HEADERFUNCTION, &onHeader);
-    curl_easy_setopt(curl, CURLOPT_HEADERDATA, &reception);
-    curl_easy_setopt(curl, CURLOPT_USERAGENT, request.userAgent.constData());
-    curl_easy_setopt(curl, CURLOPT_ERRORBUFFER, reason);
-    // Verification stays on; the authorities come from the shared store, not from files
-    // the library would read for this connection.
-    curl_easy_setopt(curl, CURLOPT_SHARE, state.share);
-    curl_easy_setopt(curl, CURLOPT_CAINFO, nullptr);
-    curl_easy_setopt(curl, CURLOPT_CAPATH, nullptr);
-    curl_easy_setopt(curl, CURLOPT_SSL_CTX_FUNCTION, &onTlsContext);
-    curl_easy_setopt(curl, CURLOPT_SSL_CTX_DATA, trustStore().storeFor(request.extraAuthorities));
-
-    // Only the headers that belong to the request: no Accept, no Expect handshake.
-    curl_slist *headers = curl_slist_append(nullptr, "Accept:");
-    headers = curl_slist_append(headers, "Expect:");
-    const QByteArray contentType = "Content-Type: " + request.contentType;
-    if (!request.contentType.isEmpty())
-        headers = curl_slist_append(headers, contentType.constData());
-    std::unique_ptr<curl_slist, ListDeleter> headerList(headers);
-    curl_easy_setopt(curl, CURLOPT_HTTPHEADER, headers);
-
-    if (request.method == "POST") {
-        curl_easy_setopt(curl, CURLOPT_POST, 1L);
-        curl_easy_setopt(curl, CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t(request.body.size()));
-        curl_easy_setopt(curl, CURLOPT_POSTFIELDS, request.body.constData());
-    } else {
-        curl_easy_setopt(curl, CURLOPT_HTTPGET, 1L);
     }
+};
+} // namespace
 
-    const CURLcode code = curl_easy_perform(curl);
-    long status = 0;
-    curl_easy_getinfo(curl, CURLINFO_RESPONSE_CODE, &status);
-    if (code == CURLE_OK && status > 0) {
-        result.outcome = TransferResult::Outcome::Answered;
-        result.status = int(status);
-        result.body = std::move(reception.body);
-    } else if (code == CURLE_OPERATION_TIMEDOUT) {
-        result.outcome = TransferResult::Outcome::TimedOut;
-    } else if (reception.exceededLimit > 0 || code == CURLE_FILESIZE_EXCEEDED) {
-        result.outcome = TransferResult::Outcome::TooLarge;
-        result.exceededLimit = reception.exceededLimit > 0 ? reception.exceededLimit : request.maximumReplySize;
-    } else if (code == CURLE_PEER_FAILED_VERIFICATION) {
-        result.setupProblem = "the service's certificate is not trusted (" + QByteArray(reason)
-            + "): add its certificate authority (QuorvaRestAPI::addCaCertificates, or caCertificatesFile in QML)";
-    } else if (code == CURLE_COULDNT_RESOLVE_HOST || code == CURLE_URL_MALFORMAT) {
-        result.setupProblem = "the service address does not resolve: it takes \"host\" or \"host:port\"";
-    } else if (code == CURLE_COULDNT_CONNECT) {
-        result.setupProblem = "the service refused the connection: nothing listens at that host and port";
+TransferResult HttpTransport::perform(const TransferRequest &request)
+{
+    if (request.method != "POST")
+        return KeptConnections::instance().perform(request);
+    Exchange exchange(request);
+    if (!exchange.configure())
+        return {};
+    return exchange.result(curl_easy_perform(exchange.handle.get()));
+}
+
+KeptConnections &KeptConnections::instance()
+{
+    // Lives for the process: its thread serves every GET of every wall.
+    static KeptConnections *pool = new KeptConnections;
+    return *pool;
+}
+
+KeptConnections::KeptConnections()
+{
+    shared();
+    m_multi = curl_multi_init();
+    curl_multi_setopt(m_multi, CURLMOPT_PIPELINING, long(CURLPIPE_MULTIPLEX));
+    curl_multi_setopt(m_multi, CURLMOPT_MAX_TOTAL_CONNECTIONS, long(kMaximumConnections));
+    curl_multi_setopt(m_multi, CURLMOPT_MAX_HOST_CONNECTIONS, long(kMaximumConnections));
+    curl_multi_setopt(m_multi, CURLMOPT_MAXCONNECTS, long(kMaximumConnections));
+    std::thread([this] { serve(); }).detach();
+}
+
+TransferResult KeptConnections::perform(const TransferRequest &request)
+{
+    Exchange exchange(request);
+    if (!exchange.configure())
+        return {};
+    // A connection that ended an exchange badly may be stuck: the next exchange opens a
+    // fresh one instead of joining it (HTTP/1.1 closes such a connection by itself).
+    if (m_freshNext.exchange(false))
+        curl_easy_setopt(exchange.handle.get(), CURLOPT_FRESH_CONNECT, 1L);
+    auto code = CURLcode(run(exchange.handle.get()));
+    if (exchange.resendOnFreshConnection) {
+        exchange.reception = Reception{};
+        exchange.reception.limit = request.maximumReplySize;
+        curl_easy_setopt(exchange.handle.get(), CURLOPT_FRESH_CONNECT, 1L);
+        code = CURLcode(run(exchange.handle.get()));
     }
+    const TransferResult result = exchange.result(code);
+    if (!result.answered())
+        m_freshNext = true;
     return result;
+}
+
+int KeptConnections::run(void *handle)
+{
+    Transfer transfer{handle, {}};
+    std::future<int> done = transfer.code.get_future();
+    {
+        std::lock_guard lock(m_mutex);
+        m_incoming.push_back(&transfer);
+    }
+    curl_multi_wakeup(m_multi);
+    return done.get();
+}
+
+void KeptConnections::serve()
+{
+    std::map<void *, Transfer *> running;
+    for (;;) {
+        {
+            std::lock_guard lock(m_mutex);
+            for (Transfer *transfer : m_incoming) {
+                running.emplace(transfer->handle, transfer);
+                curl_multi_add_handle(m_multi, transfer->handle);
+            }
+            m_incoming.clear();
+        }
+        int active = 0;
+        curl_multi_perform(m_multi, &active);
+        int left = 0;
+        while (CURLMsg *message = curl_multi_info_read(m_multi, &left)) {
+            if (message->msg != CURLMSG_DONE)
+                continue;
+            CURL *handle = message->easy_handle;
+            const CURLcode code = message->data.result;
+            curl_multi_remove_handle(m_multi, handle);
+            if (const auto it = running.find(handle); it != running.end()) {
+                // The waiting worker owns the handle; after this it may free it.
+                it->second->code.set_value(int(code));
+                running.erase(it);
+            }
+        }
+        curl_multi_poll(m_multi, nullptr, 0, 1000, nullptr);
+    }
 }
 
 } // namespace quorva::detail

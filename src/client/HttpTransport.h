@@ -9,14 +9,21 @@
 #include <QtCore/QList>
 #include <QtCore/QString>
 
+#include <atomic>
 #include <chrono>
+#include <future>
+#include <mutex>
+#include <vector>
 #include <functional>
 #include <memory>
 
 namespace quorva::detail {
 
-// One HTTP exchange as it goes on the wire: exactly one request on a fresh connection,
-// never re-sent, ended by the reply, a transport failure, the time-out or the size cap.
+// One HTTP exchange, ended by the reply, a transport failure, the time-out or the size
+// cap. A POST goes on a fresh connection of its own and is never sent twice. A GET goes
+// on a kept connection (HTTP/2 where the service offers it); one that a reused connection
+// loses before any byte of its reply is sent once more on a fresh connection (HTTP's rule
+// for idempotent requests).
 struct TransferRequest
 {
     const char *name = "";      // the request's name for diagnostics ("offers", ...)
@@ -47,6 +54,38 @@ struct TransferResult
     QByteArray setupProblem;
 
     bool answered() const { return outcome == Outcome::Answered; }
+};
+
+// The kept connections every GET shares: one thread drives them all, multiplexing on an
+// HTTP/2 connection, queueing for the bounded HTTP/1.1 ones. An idle connection is dropped
+// after kIdleSeconds, before a carrier's NAT forgets it; one the peer closed while idle is
+// noticed before it is used and costs no failure.
+class KeptConnections
+{
+public:
+    static constexpr int kMaximumConnections = 4;
+    static constexpr int kIdleSeconds = 25;
+
+    static KeptConnections &instance();
+    // Blocks the calling (worker) thread until the exchange has ended.
+    TransferResult perform(const TransferRequest &request);
+
+private:
+    struct Transfer
+    {
+        void *handle;
+        std::promise<int> code;
+    };
+
+    KeptConnections();
+    // Hands a configured handle to the thread and waits for its outcome.
+    int run(void *handle);
+    void serve();
+
+    void *m_multi = nullptr;
+    std::mutex m_mutex;
+    std::vector<Transfer *> m_incoming;
+    std::atomic<bool> m_freshNext{false};
 };
 
 class HttpTransport

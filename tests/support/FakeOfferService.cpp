@@ -36,6 +36,9 @@ FakeOfferService::FakeOfferService()
         HttpResponse response;
         if (m_dropped[endpoint] || (endpoint == Offers && m_offersStalled)) {
             response.fault = m_dropped[endpoint] ? HttpResponse::Fault::DropConnection : HttpResponse::Fault::Stall;
+            // A GET lost on a kept connection is sent once more on a fresh one.
+            if (m_dropped[endpoint] && request.sequence > 0)
+                ++m_resent[endpoint];
             return response;
         }
         switch (endpoint) {
@@ -114,6 +117,8 @@ void FakeOfferService::reset()
     for (int endpoint = 0; endpoint < EndpointCount; ++endpoint)
         m_dropped[endpoint] = m_held[endpoint] = false;
     m_offersStalled = false;
+    for (auto &resent : m_resent)
+        resent = 0;
     setHistory(200, R"({"transactions":[]})");
     m_server.clearRequests();
     QuorvaRestAPI *api = QuorvaRestAPI::sharedInstance();
@@ -132,6 +137,13 @@ QList<QMap<QString, QString>> FakeOfferService::offersQueries() const
             queries.append(rawQueryPairs(request.query));
     }
     return queries;
+}
+
+int FakeOfferService::callsTo(Endpoint endpoint) const
+{
+    static const char *const suffixes[] = {"/offers.json", "/details.json", "/categories.json",
+                                           "/transactions.json", "/tickets.json"};
+    return requestsTo(suffixes[endpoint]) - m_resent[endpoint];
 }
 
 int FakeOfferService::requestsTo(const std::string &pathSuffix) const

@@ -55,6 +55,9 @@ public:
     // Query pairs of every offers request so far, oldest first.
     QList<QMap<QString, QString>> offersQueries() const;
     int requestsTo(const std::string &pathSuffix) const;
+    // Requests the client made to an endpoint: a dropped one that it sent once more, as a
+    // GET lost on a kept connection is, counts once.
+    int callsTo(Endpoint endpoint) const;
 
 private:
     quorva::http::HttpResponse offersPage(const quorva::http::HttpRequest &request) const;
@@ -64,6 +67,7 @@ private:
     std::atomic<int> m_payout{1500};
     std::array<std::atomic<bool>, EndpointCount> m_dropped{};
     std::array<std::atomic<bool>, EndpointCount> m_held{};
+    std::array<std::atomic<int>, EndpointCount> m_resent{};
     std::atomic<bool> m_offersStalled{false};
     std::atomic<int> m_nextTicketId{1};
     mutable std::mutex m_historyMutex;

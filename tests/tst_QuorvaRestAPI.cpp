@@ -607,7 +607,7 @@ private slots:
         counter.dropIdleConnections();
         QCOMPARE(outcome(multiplexed, 200, page, Fault::None), QStringLiteral("2 offers, more 1"));
         QVERIFY(counter.connectionsAccepted() >= 2);
-        QVERIFY(counter.mostOpenAtOnce() <= quorva::detail::KeptConnections::kMaximumConnections);
+        QVERIFY(counter.mostOpenAtOnce() <= quorva::detail::KeptConnections::kMaximumConnections + quorva::detail::KeptConnections::kMaximumPlainConnections);
     }
 
     void serviceAddressSaysWhatIsWrong_data()

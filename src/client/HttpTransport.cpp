@@ -295,28 +295,29 @@ struct Exchange
 TransferResult HttpTransport::perform(const TransferRequest &request)
 {
     if (request.method != "POST")
-        return KeptConnections::instance().perform(request);
+        return KeptConnections::instance(request.address.startsWith(QLatin1StringView("https:"))).perform(request);
     Exchange exchange(request);
     if (!exchange.configure())
         return {};
     return exchange.result(curl_easy_perform(exchange.handle.get()));
 }
 
-KeptConnections &KeptConnections::instance()
+KeptConnections &KeptConnections::instance(bool tls)
 {
-    // Lives for the process: its thread serves every GET of every wall.
-    static KeptConnections *pool = new KeptConnections;
-    return *pool;
+    // They live for the process: their threads serve every GET of every wall.
+    static KeptConnections *secure = new KeptConnections(kMaximumConnections);
+    static KeptConnections *plain = new KeptConnections(kMaximumPlainConnections);
+    return tls ? *secure : *plain;
 }
 
-KeptConnections::KeptConnections()
+KeptConnections::KeptConnections(int maximumConnections)
 {
     shared();
     m_multi = curl_multi_init();
     curl_multi_setopt(m_multi, CURLMOPT_PIPELINING, long(CURLPIPE_MULTIPLEX));
-    curl_multi_setopt(m_multi, CURLMOPT_MAX_TOTAL_CONNECTIONS, long(kMaximumConnections));
-    curl_multi_setopt(m_multi, CURLMOPT_MAX_HOST_CONNECTIONS, long(kMaximumConnections));
-    curl_multi_setopt(m_multi, CURLMOPT_MAXCONNECTS, long(kMaximumConnections));
+    curl_multi_setopt(m_multi, CURLMOPT_MAX_TOTAL_CONNECTIONS, long(maximumConnections));
+    curl_multi_setopt(m_multi, CURLMOPT_MAX_HOST_CONNECTIONS, long(maximumConnections));
+    curl_multi_setopt(m_multi, CURLMOPT_MAXCONNECTS, long(maximumConnections));
     std::thread([this] { serve(); }).detach();
 }
 

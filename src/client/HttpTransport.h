@@ -59,14 +59,18 @@ struct TransferResult
 // The kept connections every GET shares: one thread drives them all, multiplexing on an
 // HTTP/2 connection, queueing for the bounded HTTP/1.1 ones. An idle connection is dropped
 // after kIdleSeconds, before a carrier's NAT forgets it; one the peer closed while idle is
-// noticed before it is used and costs no failure.
+// noticed before it is used and costs no failure. Plain http (the profile) has a pool of
+// its own: in one pool, TLS requests would wait to learn whether the plain connection to
+// the same host and port can carry them too.
 class KeptConnections
 {
 public:
-    static constexpr int kMaximumConnections = 4;
+    static constexpr int kMaximumConnections = 4;      // TLS
+    static constexpr int kMaximumPlainConnections = 1;
     static constexpr int kIdleSeconds = 25;
 
-    static KeptConnections &instance();
+    // The pool for TLS or for plain http.
+    static KeptConnections &instance(bool tls);
     // Blocks the calling (worker) thread until the exchange has ended.
     TransferResult perform(const TransferRequest &request);
 
@@ -77,7 +81,7 @@ private:
         std::promise<int> code;
     };
 
-    KeptConnections();
+    explicit KeptConnections(int maximumConnections);
     // Hands a configured handle to the thread and waits for its outcome.
     int run(void *handle);
     void serve();

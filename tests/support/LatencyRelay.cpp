@@ -72,14 +72,18 @@ struct LatencyRelay::Impl
             mostOpen = std::max(mostOpen.load(), ++open);
             auto link = std::make_shared<Link>(std::move(client), std::move(server));
             links.push_back(link);
-            asio::co_spawn(io, relay(link, link->client, link->server), asio::detached);
-            asio::co_spawn(io, relay(link, link->server, link->client), asio::detached);
+            // The client's first bytes also wait out the TCP handshake a real network would
+            // have made it wait for, here done at once on loopback.
+            asio::co_spawn(io, relay(link, link->client, link->server, 2 * halfTrip), asio::detached);
+            asio::co_spawn(io, relay(link, link->server, link->client, {}), asio::detached);
         }
     }
 
     // Reads from one side and writes to the other half a round trip later, in order.
-    asio::awaitable<void> relay(std::shared_ptr<Link> link, tcp::socket &from, tcp::socket &to)
+    asio::awaitable<void> relay(std::shared_ptr<Link> link, tcp::socket &from, tcp::socket &to,
+                                std::chrono::milliseconds firstExtra)
     {
+        const Clock::time_point opened = Clock::now();
         auto pipe = std::make_shared<Pipe>();
         auto signal = std::make_shared<asio::steady_timer>(io, Clock::time_point::max());
         asio::co_spawn(io, deliver(link, pipe, signal, to), asio::detached);
@@ -90,7 +94,7 @@ struct LatencyRelay::Impl
             if (ec || n == 0)
                 break;
             ++link->inFlight;
-            pipe->pending.emplace_back(Clock::now() + halfTrip, std::string(buffer, n));
+            pipe->pending.emplace_back(std::max(Clock::now(), opened + firstExtra) + halfTrip, std::string(buffer, n));
             signal->cancel();
         }
         pipe->readerDone = true;

@@ -8,7 +8,8 @@
 #include <memory>
 
 // A TCP relay on loopback in front of a server: each direction's bytes arrive half a round
-// trip after they were sent, as on a phone's network. It counts the connections it was
+// trip after they were sent, as on a phone's network, and a new connection's first bytes a
+// round trip later still, for the handshake. It counts the connections it was
 // asked for, and can drop the idle ones as a carrier's NAT does. Runs on a thread of its own.
 class LatencyRelay
 {

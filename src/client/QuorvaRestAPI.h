@@ -30,8 +30,10 @@ class QuorvaRestAPIPrivate;
 /// The one client of the offer service. Holds the publisher, profile and user identifiers
 /// and the targeting values; every request is asynchronous and reports back on the GUI
 /// thread, always after the call that started it has returned. Every request ends in
-/// exactly one callback and goes on the wire exactly once: a reply with any HTTP status
-/// is a response; a transport failure, the transfer time-out or the size cap is a failure.
+/// exactly one callback: a reply with any HTTP status is a response; a transport failure,
+/// the transfer time-out or the size cap is a failure. The ticket goes on the wire once,
+/// on a fresh connection. A GET goes on a kept connection, and once more on a fresh one
+/// when a reused connection lost it before any byte of its reply.
 class QUORVAMEDIA_EXPORT QuorvaRestAPI : public QObject
 {
     Q_OBJECT

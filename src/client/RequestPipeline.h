@@ -21,7 +21,8 @@ void postToGuiThread(std::function<void()> fn);
 // Sends one request from the worker pool and routes its outcome: a reply that carries an
 // HTTP status is a response, whatever the status; a transport failure, the time-out,
 // the size cap or an address that cannot be sent is a failure. Exactly one of the two
-// handlers runs, once.
+// handlers runs, once. A ticket goes on the wire once; a GET once more at most, after a
+// kept connection lost it (see HttpTransport).
 class QUORVAMEDIA_EXPORT RequestPipeline
 {
 public:

@@ -324,6 +324,9 @@ private:
             faults += QStringLiteral("status=%1\n").arg(status);
         if (pick(3) == 0)
             faults += pick(2) ? QStringLiteral("drop=1\n") : QStringLiteral("drop-every=%1\n").arg(pick(4) + 2);
+        // Kept connections closed while idle, or under a request.
+        if (pick(3) == 0)
+            faults += pick(2) ? QStringLiteral("close-idle=1\n") : QStringLiteral("drop-reused=1\n");
         return faults;
     }
 

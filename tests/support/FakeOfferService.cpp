@@ -4,6 +4,7 @@
 #include "FakeOfferService.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
@@ -14,7 +15,7 @@
 using quorva::http::HttpRequest;
 using quorva::http::HttpResponse;
 
-FakeOfferService::FakeOfferService()
+FakeOfferService::FakeOfferService() : m_closeKeptAtRandom(qEnvironmentVariableIsSet("QUORVA_TEST_CLOSE_KEPT"))
 {
     QuorvaRestAPI::sharedInstance()->addCaCertificates(m_server.caCertificates());
     const std::string png = pngOf(Qt::darkCyan, 4).toStdString();
@@ -61,6 +62,10 @@ FakeOfferService::FakeOfferService()
             break;
         }
         response.releaseWhen = [this, endpoint] { return !m_held[endpoint]; };
+        // Under stress, kept connections are closed after their answer now and then, as an
+        // idle time-out or a middlebox does; that costs a wall nothing.
+        if (m_closeKeptAtRandom && std::rand() % 3 == 0)
+            response.fault = HttpResponse::Fault::CloseAfterAnswer;
         return response;
     });
 }

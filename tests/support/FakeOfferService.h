@@ -69,6 +69,7 @@ private:
     std::array<std::atomic<bool>, EndpointCount> m_held{};
     std::array<std::atomic<int>, EndpointCount> m_resent{};
     std::atomic<bool> m_offersStalled{false};
+    const bool m_closeKeptAtRandom; // scripts/stress sets QUORVA_TEST_CLOSE_KEPT
     std::atomic<int> m_nextTicketId{1};
     mutable std::mutex m_historyMutex;
     int m_historyStatus = 200;

@@ -53,7 +53,10 @@ int main(int argc, char **argv)
     const QCommandLineOption theme(QStringLiteral("theme"),
                                    QStringLiteral("The wall's look: light, dark or brand:#RRGGBB (the system's when unset)."),
                                    QStringLiteral("look"));
-    parser.addOptions({tablet, wall, screenshots, console, theme});
+    const QCommandLineOption language(QStringLiteral("language"),
+                                      QStringLiteral("The wall's language (de, es, fr, pt_BR, ar; the system's when unset)."),
+                                      QStringLiteral("code"));
+    parser.addOptions({tablet, wall, screenshots, console, theme, language});
     parser.process(app);
 
     SandboxProcess sandbox;
@@ -96,6 +99,8 @@ int main(int argc, char **argv)
             return 2;
         }
     }
+    if (parser.isSet(language))
+        offerWall->setLanguage(parser.value(language));
     QVCreditsWatcher credits(QStringLiteral("1042"), parser.value(wall), QStringLiteral("user-1"));
     credits.setInterval(10000);
     credits.setActive(true);
@@ -110,7 +115,10 @@ int main(int argc, char **argv)
     offerWall->setSize(window.size());
     QObject::connect(&window, &QQuickWindow::widthChanged, offerWall, [&] { offerWall->setSize(window.size()); });
     QObject::connect(&window, &QQuickWindow::heightChanged, offerWall, [&] { offerWall->setSize(window.size()); });
-    addKeyboardPanel(&window);
+    if (qgetenv("QT_IM_MODULE") == "qtvirtualkeyboard")
+        addKeyboardPanel(&window);
     window.show();
+    // Keys go to the wall at once, with or without a window manager to hand them over.
+    window.requestActivate();
     return app.exec();
 }

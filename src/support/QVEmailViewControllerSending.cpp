@@ -40,33 +40,44 @@ bool QVEmailViewController::validateFields()
         d_func()->m_activeUISate,
     });
     QQuickItem *piece = nullptr;
+    QQuickItem *input = nullptr;
     switch (problem.field) {
     case TicketField::None:
         return true;
     case TicketField::Name:
-        d_func()->m_enterInfoView->notValid(d_func()->m_enterInfoView->nameTextField());
+        input = d_func()->m_enterInfoView->nameTextField();
+        d_func()->m_enterInfoView->notValid(input);
         piece = d_func()->m_enterInfoView;
         break;
     case TicketField::Email:
-        d_func()->m_enterInfoView->notValid(d_func()->m_enterInfoView->emailTextField());
+        input = d_func()->m_enterInfoView->emailTextField();
+        d_func()->m_enterInfoView->notValid(input);
         piece = d_func()->m_enterInfoView;
         break;
     case TicketField::OfferName:
-        d_func()->m_enterOfferTitleView->notValid(d_func()->m_enterOfferTitleView->offerNameField());
+        input = d_func()->m_enterOfferTitleView->offerNameField();
+        d_func()->m_enterOfferTitleView->notValid(input);
         piece = d_func()->m_enterOfferTitleView;
         break;
     case TicketField::Date:
+        input = d_func()->m_offerDateCompletedView->dateBtn();
         d_func()->m_offerDateCompletedView->notValid();
         piece = d_func()->m_offerDateCompletedView;
         break;
     case TicketField::Comment:
-        d_func()->m_enterCommentView->notValid(d_func()->m_enterCommentView->commentInputField());
+        input = d_func()->m_enterCommentView->commentInputField();
+        d_func()->m_enterCommentView->notValid(input);
         piece = d_func()->m_enterCommentView;
         break;
     }
     if (d_func()->m_delegate)
         d_func()->m_delegate->invalidInputMessage(problem.message);
     scrollRectToVisible(QRectF(piece->position(), piece->size()));
+    // The keyboard goes to the field in error, which says what is wrong with it.
+    if (input) {
+        input->setProperty("errorText", problem.message);
+        input->forceActiveFocus(Qt::OtherFocusReason);
+    }
     return false;
 }
 

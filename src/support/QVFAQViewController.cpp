@@ -8,6 +8,8 @@
 #include "QVFaqListModel.h"
 #include "QVLanguage.h"
 
+#include <QtQuick/QQuickWindow>
+
 namespace {
 constexpr QLatin1StringView kFaqsResource("faqs.plist");
 } // namespace
@@ -51,11 +53,20 @@ void QVFAQViewController::didSelectItem(int row)
         return;
     // Selecting the open row again keeps it open; the list is rebuilt either way. The
     // rebuild waits for the tap that asked for it to finish, as it replaces that cell.
-    if (d_func()->m_selectedIndexPath != row) {
+    // The rebuild replaces the cell the keyboard is on: the new one takes it back.
+    QQuickItem *focused = window() ? window()->activeFocusItem() : nullptr;
+    const bool fromKeyboard = focused && isAncestorOf(focused);
+    if (d_func()->m_selectedIndexPath != row || d_func()->m_keyboardRow != (fromKeyboard ? row : -1)) {
         d_func()->m_selectedIndexPath = row;
+        d_func()->m_keyboardRow = fromKeyboard ? row : -1;
         emit selectedIndexPathChanged();
     }
     QMetaObject::invokeMethod(d_func()->m_model, &QVFaqListModel::reload, Qt::QueuedConnection);
+}
+
+int QVFAQViewController::keyboardRow() const
+{
+    return d_func()->m_keyboardRow;
 }
 
 qreal QVFAQViewController::heightForRow(int row, qreal width) const

@@ -25,6 +25,9 @@ class QUORVAMEDIA_EXPORT QVFAQViewController : public QQuickItem
     Q_PROPERTY(QAbstractItemModel *model READ model CONSTANT FINAL)
     /// The open row, -1 while none is.
     Q_PROPERTY(int selectedIndexPath READ selectedIndexPath NOTIFY selectedIndexPathChanged FINAL)
+    /// The row opened from the keyboard, whose rebuilt cell takes the keyboard back; -1
+    /// when the last row opened by a tap.
+    Q_PROPERTY(int keyboardRow READ keyboardRow NOTIFY selectedIndexPathChanged FINAL)
 
 public:
     /// A closed row's height, in points.
@@ -55,6 +58,8 @@ public:
 
     /// A tap on a question: opens it, closing the open one.
     Q_INVOKABLE void didSelectItem(int row);
+    /// See #keyboardRow.
+    int keyboardRow() const;
     /// A row's height in a list of that width: fixed when closed, the answer's when open.
     Q_INVOKABLE qreal heightForRow(int row, qreal width) const;
 

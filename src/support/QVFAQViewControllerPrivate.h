@@ -13,4 +13,5 @@ public:
     QQuickItem *m_collectionView = nullptr;
     QVFaqListModel *m_model = nullptr;
     int m_selectedIndexPath = -1;
+    int m_keyboardRow = -1;
 };

@@ -23,5 +23,12 @@ QObject *QVAlertPresenter::present(QQuickItem *over, const QString &title, const
     alert->setParent(over);
     QObject::connect(alert, SIGNAL(closed()), alert, SLOT(deleteLater()));
     QMetaObject::invokeMethod(alert, "open");
+    // The wall it belongs to keeps the keyboard and the accessibility tree in the alert.
+    for (QObject *owner = over; owner; owner = owner->parent()) {
+        if (owner->inherits("QVOffersViewController")) {
+            QMetaObject::invokeMethod(owner, "alertOpened", Q_ARG(QObject *, alert));
+            break;
+        }
+    }
     return alert;
 }

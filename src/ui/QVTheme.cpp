@@ -180,3 +180,11 @@ QColor QVTheme::shade(qreal alpha) const
     // Shadows are darkness whatever the theme; on a dark theme they need more of it.
     return withAlpha(QColor(Qt::black), isDark() ? std::min(1.0, alpha * 3) : alpha);
 }
+
+QColor QVTheme::focusRing(const QColor &surroundings) const
+{
+    constexpr double kNonTextContrast = 3.0; // WCAG 2.1, 1.4.11
+    if (contrastRatio(accent, surroundings) >= kNonTextContrast)
+        return accent;
+    return contrastRatio(textPrimary, surroundings) >= contrastRatio(headerText, surroundings) ? textPrimary : headerText;
+}

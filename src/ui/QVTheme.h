@@ -91,6 +91,10 @@ public:
     ///@}
     /// A drop shadow of the given strength.
     Q_INVOKABLE QColor shade(qreal alpha) const;
+    /// The keyboard focus ring's colour over the given surroundings: the accent where it
+    /// stands out by 3 : 1 or more, else the primary text colour or, failing that, the
+    /// header text colour, whichever stands out most.
+    Q_INVOKABLE QColor focusRing(const QColor &surroundings) const;
 
     /// True when every role is equal.
     friend bool operator==(const QVTheme &, const QVTheme &) = default;

@@ -298,7 +298,10 @@ void QVOffersViewController::requestProfile()
 
 void QVOffersViewController::profileArrived(const QVProfile &profile)
 {
-    d_func()->m_currencyName = profile.currencyName();
+    if (d_func()->m_currencyName != profile.currencyName()) {
+        d_func()->m_currencyName = profile.currencyName();
+        emit currencyNameChanged();
+    }
     d_func()->m_profileArrived = true;
     const QString name = profile.currencyName().isNull() ? QString(kAbsentText) : profile.currencyName();
     const QString title = tr(kEarnFormat).arg(name);
@@ -439,6 +442,8 @@ void QVOffersViewController::updatePolish()
 {
     if (d_func()->m_noOffersLabel)
         d_func()->m_noOffersLabel->setVisible(d_func()->m_offers->count() == 0 && !d_func()->m_loadingOffers);
+    if (d_func()->m_rowsOrderPending)
+        putRowsInScreenOrder();
 }
 
 bool QVOffersViewController::configureCell(QVOfferUICollectionViewCell *cell, int row)

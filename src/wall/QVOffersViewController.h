@@ -139,6 +139,17 @@ class QUORVAMEDIA_EXPORT QVOffersViewController : public QQuickItem,
     /// empty (the default) means the host's default locale when the wall is made. The
     /// library speaks one language at a time: the wall that sets one last is heard.
     Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged FINAL)
+    /// The name of the app's currency, as the profile gives it ("Gems"); empty until then.
+    Q_PROPERTY(QString currencyName READ currencyName NOTIFY currencyNameChanged FINAL)
+    /// True while something covers the list (a panel, a popover or an alert): what is
+    /// behind leaves the accessibility tree and the keyboard's way.
+    Q_PROPERTY(bool contentHidden READ isContentHidden NOTIFY modalityChanged FINAL)
+    /// True while a popover or an alert covers the header as well.
+    Q_PROPERTY(bool headerHidden READ isHeaderHidden NOTIFY modalityChanged FINAL)
+    /// True while an alert covers an open panel or popover.
+    Q_PROPERTY(bool overlayHidden READ isOverlayHidden NOTIFY modalityChanged FINAL)
+    /// The offer the keyboard is on, counted from 0; -1 before the list had the focus.
+    Q_PROPERTY(int focusedOffer READ focusedOffer NOTIFY focusedOfferChanged FINAL)
 
 public:
     /// Creates a wall; QML creates it this way. Set the identifiers before it is first
@@ -187,6 +198,29 @@ public:
     ///@}
     /// How long the credit notice shows, in milliseconds.
     static constexpr int kCreditNoticeMs = 4000;
+
+    ///@{
+    /// What a screen reader and the keyboard use, as the properties of the same names
+    /// describe them.
+    QString currencyName() const;
+    bool isContentHidden() const;
+    bool isHeaderHidden() const;
+    bool isOverlayHidden() const;
+    int focusedOffer() const;
+    ///@}
+    /// Moves the keyboard to the offer that many places on (negative: back), scrolling it
+    /// onto the screen; the list pages on as it does by touch.
+    Q_INVOKABLE void moveOfferFocus(int step);
+    /// Opens the offer the keyboard is on, as pressing its payout button does.
+    Q_INVOKABLE void activateFocusedOffer();
+    /// The keyboard came to the cell of this offer (by Tab, or a tap): it is the list's place.
+    Q_INVOKABLE void offerCellFocused(int row);
+    /// An amount as a screen reader says it, with the currency's name: "90 Gems",
+    /// "minus 940 Gems". Takes a payout as the wall shows it ("+90", "+-940") or a number.
+    Q_INVOKABLE QString spokenAmount(const QString &amount) const;
+    /// Puts the list's rows in the order they stand on screen, which is the order a
+    /// screen reader reads them in.
+    Q_INVOKABLE void orderRows();
 
     /// The wall's colours. Until a host sets one, the wall follows the system's light or
     /// dark look, also while it is open.
@@ -301,6 +335,7 @@ public:
     void onSaveFiltersPressed(const std::optional<QVCategory> &category, const QVSort &sort) override;
 
 private slots:
+    Q_DECL_HIDDEN void alertOpened(QObject *alert);
     Q_DECL_HIDDEN void popoverOpened();
     Q_DECL_HIDDEN void popoverClosed();
     Q_DECL_HIDDEN void popoverCloseRequested();
@@ -331,6 +366,9 @@ signals:
     /// Emitted when the property of the same name changes.
     void creditsWatcherChanged();
     void languageChanged();
+    void currencyNameChanged();
+    void modalityChanged();
+    void focusedOfferChanged();
     ///@}
 
 protected:
@@ -341,6 +379,7 @@ protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void updatePolish() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     ///@}
 
 private:
@@ -378,6 +417,13 @@ private:
     Q_DECL_HIDDEN int firstOfferOnScreen() const;
     Q_DECL_HIDDEN qreal listWidth() const;
     Q_DECL_HIDDEN class QQmlContext *overlayContext();
+    // The keyboard and the accessibility tree follow what covers what.
+    Q_DECL_HIDDEN void overlayWillOpen(QQuickItem *opener);
+    Q_DECL_HIDDEN void overlayDidOpen(QQuickItem *content);
+    Q_DECL_HIDDEN void overlayDidClose();
+    Q_DECL_HIDDEN void updateModality();
+    Q_DECL_HIDDEN void focusOfferCell();
+    Q_DECL_HIDDEN void putRowsInScreenOrder();
 
 
 

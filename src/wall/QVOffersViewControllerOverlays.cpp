@@ -24,7 +24,7 @@ constexpr QLatin1StringView kBlurViewType("QVBlurView");
 constexpr QLatin1StringView kFiltersType("QVFiltersViewController");
 constexpr QLatin1StringView kSupportType("QVSupportViewController");
 constexpr qreal kPopoverMargin = 8;
-constexpr int kNoAutoClose = 0;                  // Popup.NoAutoClose
+constexpr int kCloseOnEscape = 0x10;             // Popup.CloseOnEscape
 constexpr int kPlatformClosePolicy = 0x1 | 0x10; // Popup.CloseOnEscape | Popup.CloseOnPressOutside
 
 QQuickItem *popoverHost(QObject *popover)
@@ -82,6 +82,7 @@ void QVOffersViewController::onFilterPressed()
     }
 
     QVFiltersViewController *panel = d_func()->m_filterVC;
+    overlayWillOpen(d_func()->m_filterBtn);
     attachPhoneOverlay(panel, tr(kFiltersTitle));
     panel->setClip(true);
     d_func()->m_blurView = QVComponentFactory::create<QQuickItem>(
@@ -97,6 +98,7 @@ void QVOffersViewController::onFilterPressed()
     layoutFilterPanel();
     slide(panel, "y", 0, Slide::OpenFilters, false);
     setPhoneOverlayOpen(d_func()->m_isFiltersViewOpen, true);
+    overlayDidOpen(panel);
 }
 
 void QVOffersViewController::attachPhoneOverlay(QQuickItem *panel, const QString &title)
@@ -182,9 +184,12 @@ void QVOffersViewController::trackSlide(QAbstractAnimation *animation)
 
 void QVOffersViewController::closeFiltersView()
 {
+    const bool wasOpen = d_func()->m_isFiltersViewOpen;
     if (d_func()->m_filterVC && d_func()->m_filterVC->parentItem() == this)
         slide(d_func()->m_filterVC, "y", -listHeight(), Slide::Other, true);
     setPhoneOverlayOpen(d_func()->m_isFiltersViewOpen, false);
+    if (wasOpen)
+        overlayDidClose();
 }
 
 void QVOffersViewController::onSupportPressed()
@@ -212,6 +217,7 @@ void QVOffersViewController::onSupportPressed()
     }
 
     QVSupportViewController *support = d_func()->m_supportVC;
+    overlayWillOpen(d_func()->m_supportBtn);
     attachPhoneOverlay(support, tr(kSupportTitle));
     // In from the right, under the header.
     // It comes in from the reading side's far edge: the right, or the left in a
@@ -220,13 +226,17 @@ void QVOffersViewController::onSupportPressed()
     layoutSupportPanel();
     slide(support, "x", 0, Slide::Other, false);
     setPhoneOverlayOpen(d_func()->m_isSupportViewOpen, true);
+    overlayDidOpen(support);
 }
 
 void QVOffersViewController::closeSupportView()
 {
+    const bool wasOpen = d_func()->m_isSupportViewOpen;
     if (d_func()->m_supportVC && d_func()->m_supportVC->parentItem() == this)
         slide(d_func()->m_supportVC, "x", d_func()->m_rightToLeft ? -listWidth() : listWidth(), Slide::Other, true);
     setPhoneOverlayOpen(d_func()->m_isSupportViewOpen, false);
+    if (wasOpen)
+        overlayDidClose();
 }
 
 QObject *QVOffersViewController::popover(QObject *&popover, const char *typeName, const char *objectName)
@@ -285,14 +295,17 @@ void QVOffersViewController::presentInPopover(QObject *popover, QQuickItem *butt
     panel->setSize(host->size());
     connect(host, &QQuickItem::widthChanged, panel, [panel, host] { panel->setWidth(host->width()); });
     connect(host, &QQuickItem::heightChanged, panel, [panel, host] { panel->setHeight(host->height()); });
+    overlayWillOpen(button);
     QMetaObject::invokeMethod(popover, "open");
 }
 
 void QVOffersViewController::popoverDidPresent(QObject *popover)
 {
-    // Once presented, a tap outside no longer closes it.
-    if (popover)
-        popover->setProperty("closePolicy", kNoAutoClose);
+    // Once presented, a tap outside no longer closes it; Escape still does.
+    if (!popover)
+        return;
+    popover->setProperty("closePolicy", kCloseOnEscape);
+    overlayDidOpen(popover->property("contentItem").value<QQuickItem *>());
 }
 
 void QVOffersViewController::popoverDidDismiss(QObject *popover)
@@ -300,6 +313,7 @@ void QVOffersViewController::popoverDidDismiss(QObject *popover)
     if (!popover)
         return;
     popover->setProperty("closePolicy", kPlatformClosePolicy);
+    overlayDidClose();
     // The panel in the popover goes with it; the next press builds a new one.
     if (QQuickItem *host = popoverHost(popover)) {
         for (QQuickItem *panel : host->childItems()) {
@@ -368,7 +382,7 @@ void QVOffersViewController::geometryChange(const QRectF &newGeometry, const QRe
     layoutSupportPanel();
     // A size transition (rotation) takes a presented popover away.
     for (QObject *popover : {d_func()->m_filterPopover, d_func()->m_supportPopover}) {
-        if (popover && popover->property("visible").toBool() && popover->property("closePolicy").toInt() == kNoAutoClose)
+        if (popover && popover->property("visible").toBool() && popover->property("closePolicy").toInt() == kCloseOnEscape)
             dismissPopover(popover);
     }
 }

@@ -66,4 +66,12 @@ public:
     QString m_language;
     bool m_profileArrived = false;
     QPointer<QQmlContext> m_overlayContext;
+    // What the keyboard was on when an overlay opened, to go back to when it closes.
+    QPointer<QQuickItem> m_focusBeforeOverlay;
+    QList<QPointer<QObject>> m_openAlerts;
+    bool m_contentHidden = false;
+    bool m_headerHidden = false;
+    bool m_overlayHidden = false;
+    int m_focusedOffer = -1;
+    bool m_rowsOrderPending = false;
 };

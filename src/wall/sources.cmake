@@ -29,6 +29,7 @@ set(QUORVA_UI_SOURCES
     wall/QVOffersListModel.h wall/QVOffersListModel.cpp
     wall/QVOffersViewController.cpp
     wall/QVOffersViewControllerOverlays.cpp
+    wall/QVOffersViewControllerAccessibility.cpp
     wall/QVOfferWallPreload.cpp wall/OfferWallPreloadState.h
     wall/QVOfferUICollectionViewCell.cpp
     wall/QVFiltersViewController.cpp
@@ -46,6 +47,7 @@ set(QUORVA_QML_FILES
     resources/qml/QVBlurView.qml
     resources/qml/HeaderButton.qml
     resources/qml/FlatButton.qml
+    resources/qml/FocusRing.qml
     resources/qml/Spinner.qml
     resources/qml/QVPopover.qml
     resources/qml/QVSupportPopover.qml

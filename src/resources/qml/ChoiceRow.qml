@@ -20,19 +20,18 @@ AbstractButton {
     Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: check.visible
+    Accessible.ignored: overlayHidden
+    // A screen reader's press and toggle choose the row, as a tap does.
+    Accessible.onPressAction: clicked()
+    Accessible.onToggleAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
     background: Rectangle {
         color: row.down ? theme.tint(theme.card, theme.textPrimary, 0.06) : "transparent"
-        Rectangle {
-            anchors.fill: parent
+        FocusRing {
             anchors.margins: 2
-            radius: 8
-            color: "transparent"
-            border.width: 2
-            border.color: theme.accent
-            visible: row.visualFocus
+            shown: row.visualFocus
         }
         Rectangle {
             anchors.left: parent.left

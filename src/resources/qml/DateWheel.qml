@@ -12,15 +12,28 @@ Item {
     property alias delegate: tumbler.delegate
     property alias currentIndex: tumbler.currentIndex
     property alias wrap: tumbler.wrap
-    // What the wheel shows, as a screen reader says it.
-    property string value
+    // What the wheel shows, as a screen reader says it ("March").
+    property string valueText
+    // The number of the first row: 1 for the month and the day, the first year.
+    property int firstValue: 1
+    // The value, its range and its step, as a screen reader reads a spin box's.
+    readonly property real value: firstValue + tumbler.currentIndex
+    readonly property real minimumValue: firstValue
+    readonly property real maximumValue: firstValue + Math.max(0, tumbler.count - 1)
+    readonly property real stepSize: 1
     signal picked(int index)
 
+    activeFocusOnTab: true
     Accessible.role: Accessible.SpinBox
-    Accessible.description: wheel.value
+    Accessible.description: wheel.valueText
+    Keys.onUpPressed: tumbler.currentIndex = Math.max(tumbler.currentIndex - 1, 0)
+    Keys.onDownPressed: tumbler.currentIndex = Math.min(tumbler.currentIndex + 1, tumbler.count - 1)
     Accessible.onIncreaseAction: tumbler.currentIndex = Math.min(tumbler.currentIndex + 1, tumbler.count - 1)
     Accessible.onDecreaseAction: tumbler.currentIndex = Math.max(tumbler.currentIndex - 1, 0)
 
+    FocusRing {
+        shown: wheel.activeFocus
+    }
     Tumbler {
         id: tumbler
         anchors.fill: parent

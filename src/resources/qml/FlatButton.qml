@@ -14,9 +14,7 @@ Rectangle {
     implicitHeight: 44
     radius: 6
     color: tap.pressed ? theme.tint(theme.accent, theme.textPrimary, 0.2) : theme.accent
-    border.width: activeFocus ? 3 : 0
-    border.color: theme.textPrimary
-    activeFocusOnTab: true
+    activeFocusOnTab: visible && !Accessible.ignored
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.onPressAction: clicked()
@@ -24,6 +22,10 @@ Rectangle {
     Keys.onEnterPressed: clicked()
     Keys.onSpacePressed: clicked()
 
+    FocusRing {
+        cornerRadius: button.radius
+        surroundings: theme.background
+    }
     Text {
         id: label
         anchors.centerIn: parent

@@ -5,11 +5,21 @@ import QtQuick
 import QtQuick.Controls.Basic
 
 // A borderless single-line field for the form's cards, with a clear button while it
-// has text and the focus.
+// has text and the focus. A screen reader hears it by its label, that it is required,
+// and what is wrong with it.
 TextField {
     id: field
 
+    property string label
+    // Set by the form when sending found this field wrong; said while the field shows it.
+    property string errorText
+    property bool inError: false
     signal clearPressed()
+
+    Accessible.name: label
+    Accessible.description: inError && errorText.length > 0 ? qsTr("Required, invalid: %1").arg(errorText)
+                                                             : qsTr("Required")
+    Accessible.ignored: overlayHidden
 
     leftPadding: 0
     rightPadding: clear.visible ? clear.width + 4 : 0
@@ -17,7 +27,13 @@ TextField {
     color: theme.textPrimary
     placeholderTextColor: theme.textSecondary
     selectByMouse: true
-    background: Item {}
+    background: Item {
+        FocusRing {
+            target: parent
+            anchors.margins: -4
+            shown: field.activeFocus
+        }
+    }
 
     ToolButton {
         id: clear
@@ -30,13 +46,16 @@ TextField {
         focusPolicy: Qt.NoFocus
         text: "\u00d7"
         font.pixelSize: 18
-        Accessible.name: qsTr("Clear %1").arg(field.Accessible.name)
+        Accessible.name: qsTr("Clear %1").arg(field.label)
+        Accessible.ignored: !visible || overlayHidden
+        Accessible.onPressAction: field.clearPressed()
         onClicked: field.clearPressed()
         background: Rectangle {
             radius: width / 2
             color: clear.down ? theme.tint(theme.separator, theme.textPrimary, 0.15) : theme.separator
         }
         contentItem: Text {
+            Accessible.ignored: true
             text: clear.text
             font: clear.font
             color: theme.textSecondary

@@ -11,13 +11,18 @@ Item {
 
     property url icon
     property string accessibleName
+    // Behind something modal: out of the accessibility tree and the keyboard's way.
+    property bool hidden: false
+    // In the keyboard's Tab order: not while an overlay keeps the keyboard in itself.
+    property bool tabStop: !hidden
     signal clicked()
 
     implicitWidth: 44
     implicitHeight: 44
-    activeFocusOnTab: true
+    activeFocusOnTab: tabStop && !hidden
     Accessible.role: Accessible.Button
     Accessible.name: accessibleName
+    Accessible.ignored: hidden
     Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
@@ -27,8 +32,10 @@ Item {
         anchors.fill: parent
         radius: width / 2
         color: tap.pressed ? theme.withAlpha(theme.headerText, 0.2) : "transparent"
-        border.width: button.activeFocus ? 2 : 0
-        border.color: theme.headerText
+    }
+    FocusRing {
+        cornerRadius: button.width / 2
+        surroundings: theme.headerStart
     }
     ColorImage {
         anchors.centerIn: parent

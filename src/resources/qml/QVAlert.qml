@@ -15,7 +15,7 @@ Dialog {
     anchors.centerIn: parent
     width: Math.min(parent ? parent.width - 64 : 270, 290)
     modal: true
-    closePolicy: Popup.NoAutoClose
+    closePolicy: Popup.CloseOnEscape
     padding: 0
     topPadding: 0
 
@@ -27,6 +27,8 @@ Dialog {
     }
 
     header: Label {
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
         text: alert.title
         topPadding: 20
         leftPadding: 16
@@ -39,6 +41,8 @@ Dialog {
     }
 
     contentItem: Label {
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
         LayoutMirroring.enabled: rightToLeft
         LayoutMirroring.childrenInherit: true
         text: alert.message.trim()
@@ -65,6 +69,7 @@ Dialog {
             anchors.topMargin: 1
             text: alert.actionTitle
             Accessible.name: alert.actionTitle
+            Accessible.onPressAction: clicked()
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()
             flat: true
@@ -74,8 +79,14 @@ Dialog {
             background: Rectangle {
                 color: parent.pressed ? theme.tint(theme.card, theme.textPrimary, 0.06) : "transparent"
                 radius: 14
+                FocusRing {
+                    anchors.margins: 3
+                    shown: parent.parent.visualFocus
+                    cornerRadius: 11
+                }
             }
             contentItem: Label {
+                Accessible.ignored: true
                 text: parent.text
                 font: parent.font
                 color: theme.accent

@@ -46,6 +46,10 @@ QVChooseSubjectViewBase {
             anchors.topMargin: 6
             anchors.left: parent.left
             anchors.right: parent.right
+            // The question names the group of its choices.
+            Accessible.role: Accessible.Grouping
+            Accessible.name: title.text
+            Accessible.ignored: overlayHidden
             ChoiceRow {
                 id: notCredited
                 objectName: "notCreditBtn"

@@ -22,7 +22,7 @@ QVEmailViewControllerBase {
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         onContentYChanged: form.scrollViewDidScroll()
-        ScrollIndicator.vertical: ScrollIndicator { bottomPadding: form.keyboardInset }
+        ScrollIndicator.vertical: ScrollIndicator { bottomPadding: form.keyboardInset; Accessible.ignored: true }
     }
 
     // Slides up from the bottom of the form when the date button is pressed.
@@ -36,6 +36,10 @@ QVEmailViewControllerBase {
         opacity: 0
         visible: opacity > 0
         color: theme.card
+        // The question names the panel of wheels it asks about.
+        Accessible.role: Accessible.Grouping
+        Accessible.name: dateQuestion.text
+        Accessible.ignored: !visible || overlayHidden
 
         Rectangle {
             anchors.left: parent.left
@@ -44,6 +48,7 @@ QVEmailViewControllerBase {
             color: theme.separator
         }
         Text {
+            id: dateQuestion
             horizontalAlignment: Text.AlignLeft
             anchors.left: parent.left
             anchors.right: done.left
@@ -66,10 +71,17 @@ QVEmailViewControllerBase {
             flat: true
             text: qsTr("Done")
             Accessible.name: qsTr("Done choosing the date")
+            Accessible.onPressAction: clicked()
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()
             onClicked: form.onDateDonePressed()
+            background: Item {
+                FocusRing {
+                    shown: done.visualFocus
+                }
+            }
             contentItem: Text {
+                Accessible.ignored: true
                 text: done.text
                 font.pixelSize: 16
                 font.bold: true
@@ -102,7 +114,7 @@ QVEmailViewControllerBase {
                     height: parent.height
                     model: picker.monthNames
                     currentIndex: picker.monthIndex
-                    value: picker.monthNames[picker.monthIndex]
+                    valueText: picker.monthNames[picker.monthIndex]
                     onPicked: index => picker.pickMonth(index)
                     delegate: wheelRow
                     Accessible.name: qsTr("Month")
@@ -112,7 +124,7 @@ QVEmailViewControllerBase {
                     height: parent.height
                     model: 31
                     currentIndex: picker.dayIndex
-                    value: picker.dayIndex + 1
+                    valueText: picker.dayIndex + 1
                     onPicked: index => picker.pickDay(index)
                     delegate: Text {
                         required property int index
@@ -131,7 +143,8 @@ QVEmailViewControllerBase {
                     model: picker.years
                     wrap: false
                     currentIndex: picker.yearIndex
-                    value: picker.years[picker.yearIndex]
+                    firstValue: picker.years[0]
+                    valueText: picker.years[picker.yearIndex]
                     onPicked: index => picker.pickYear(index)
                     delegate: wheelRow
                     Accessible.name: qsTr("Year")

@@ -52,8 +52,20 @@ QVEnterCommentViewBase {
             placeholderTextColor: theme.textSecondary
             wrapMode: TextEdit.Wrap
             selectByMouse: true
-            background: Item {}
-            Accessible.name: qsTr("Your message")
+            // Set by the form when sending found the message missing.
+            property string errorText
+            readonly property bool inError: view.commentIconName.endsWith("_error")
+            background: Item {
+                FocusRing {
+                    target: parent
+                    anchors.margins: -4
+                    shown: area.activeFocus
+                }
+            }
+            Accessible.name: qsTr("Message")
+            Accessible.description: inError && errorText.length > 0 ? qsTr("Required, invalid: %1").arg(errorText)
+                                                                    : qsTr("Required")
+            Accessible.ignored: overlayHidden
             onTextChanged: view.commentTextChanged()
             // Tab leaves the message instead of typing a tab into it.
             Keys.onTabPressed: area.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
@@ -70,7 +82,8 @@ QVEnterCommentViewBase {
             font.pixelSize: 13
             color: theme.textSecondary
             Accessible.role: Accessible.StaticText
-            Accessible.name: text + " characters left"
+            Accessible.name: qsTr("%1 characters left").arg(text)
+            Accessible.ignored: overlayHidden
         }
     }
 }

@@ -47,7 +47,8 @@ QVEnterInformationViewBase {
             y: 8
             height: 40
             placeholderText: qsTr("Your name")
-            Accessible.name: qsTr("Your name")
+            label: qsTr("Name")
+            inError: view.nameIconName.endsWith("_error")
             onTextEdited: view.fieldWillChange(name)
             onClearPressed: view.clearField(name)
         }
@@ -84,7 +85,8 @@ QVEnterInformationViewBase {
             color: view.emailShowsError ? theme.error : theme.textPrimary
             placeholderText: qsTr("Email address")
             inputMethodHints: Qt.ImhEmailCharactersOnly | Qt.ImhNoAutoUppercase
-            Accessible.name: qsTr("Email address")
+            label: qsTr("Email")
+            inError: view.emailIconName.endsWith("_error")
             onTextEdited: view.fieldWillChange(email)
             onClearPressed: view.clearField(email)
         }

@@ -43,7 +43,8 @@ QVEnterOfferTitleViewBase {
             anchors.verticalCenter: parent.verticalCenter
             height: 40
             placeholderText: qsTr("Name of the offer")
-            Accessible.name: qsTr("Name of the offer")
+            label: qsTr("Offer")
+            inError: view.nameIconName.endsWith("_error")
             onTextEdited: view.fieldWillChange(field)
             onClearPressed: view.clearField(field)
         }

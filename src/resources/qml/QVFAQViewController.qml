@@ -19,7 +19,10 @@ QVFAQViewControllerBase {
         clip: true
         reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
-        ScrollIndicator.vertical: ScrollIndicator {}
+        ScrollIndicator.vertical: ScrollIndicator { Accessible.ignored: true }
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Frequently asked questions")
+        Accessible.ignored: overlayHidden
 
         delegate: DelegateChooser {
             role: "expanded"
@@ -41,6 +44,7 @@ QVFAQViewControllerBase {
                     required answer
                     width: ListView.view.width
                     height: faq.heightForRow(row, width)
+                    takesFocus: faq.keyboardRow === row
                     onSelected: faq.didSelectItem(row)
                 }
             }

@@ -20,7 +20,9 @@ QVFilterUICollectionViewCellBase {
     Accessible.name: title
     Accessible.checkable: true
     Accessible.checked: selected
+    Accessible.ignored: overlayHidden
     Accessible.onPressAction: cell.pressed()
+    Accessible.onToggleAction: cell.pressed()
     Keys.onReturnPressed: cell.pressed()
     Keys.onEnterPressed: cell.pressed()
     Keys.onSpacePressed: cell.pressed()
@@ -28,12 +30,15 @@ QVFilterUICollectionViewCellBase {
     Rectangle {
         anchors.fill: parent
         color: tap.pressed ? theme.tint(theme.card, theme.textPrimary, 0.06) : "transparent"
-        border.width: cell.activeFocus ? 2 : 0
-        border.color: theme.accent
+    }
+    FocusRing {
+        anchors.margins: 2
+        cornerRadius: 6
     }
     Label {
         id: label
         objectName: "name"
+        Accessible.ignored: true // the row reads its title
         horizontalAlignment: Text.AlignLeft
         anchors.left: parent.left
         anchors.right: check.left

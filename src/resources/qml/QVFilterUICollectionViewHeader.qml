@@ -12,10 +12,14 @@ QVFilterUICollectionViewHeaderBase {
 
     name: label
     implicitHeight: 44
+    Accessible.role: Accessible.Heading
+    Accessible.name: title
+    Accessible.ignored: overlayHidden
 
     Label {
         id: label
         objectName: "name"
+        Accessible.ignored: true // the header reads its title
         horizontalAlignment: Text.AlignLeft
         anchors.left: parent.left
         anchors.bottom: parent.bottom

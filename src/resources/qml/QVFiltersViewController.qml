@@ -46,7 +46,7 @@ QVFiltersViewControllerBase {
             }
         }
 
-        ScrollIndicator.vertical: ScrollIndicator {}
+        ScrollIndicator.vertical: ScrollIndicator { Accessible.ignored: true }
     }
 
     Button {
@@ -60,14 +60,21 @@ QVFiltersViewControllerBase {
         height: 48
         text: qsTr("Apply Filters")
         Accessible.name: qsTr("Apply the filters")
+        Accessible.ignored: !visible || overlayHidden
+        Accessible.onPressAction: clicked()
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
         onClicked: panel.onSavedPressed()
         background: Rectangle {
             radius: panel.cornerRadius
             color: save.pressed ? theme.tint(theme.accent, theme.textPrimary, 0.2) : theme.accent
+            FocusRing {
+                shown: save.visualFocus
+                cornerRadius: panel.cornerRadius
+            }
         }
         contentItem: Label {
+            Accessible.ignored: true
             text: save.text
             font.pixelSize: 17
             font.bold: true

@@ -20,7 +20,10 @@ QVHistoryViewControllerBase {
         clip: true
         reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
-        ScrollIndicator.vertical: ScrollIndicator {}
+        ScrollIndicator.vertical: ScrollIndicator { Accessible.ignored: true }
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Credited offers")
+        Accessible.ignored: overlayHidden || count === 0
         delegate: QVTransactionCollectionViewCell {
             required offerName
             required timestamp
@@ -33,6 +36,8 @@ QVHistoryViewControllerBase {
     Label {
         id: empty
         objectName: "noOffersCompleted"
+        Accessible.name: text + " " + emptyDetail.text
+        Accessible.ignored: !visible || overlayHidden
         anchors.centerIn: parent
         anchors.verticalCenterOffset: -24
         visible: false
@@ -45,6 +50,8 @@ QVHistoryViewControllerBase {
         color: theme.textPrimary
     }
     Label {
+        id: emptyDetail
+        Accessible.ignored: true
         anchors.top: empty.bottom
         anchors.topMargin: 8
         anchors.horizontalCenter: empty.horizontalCenter

@@ -33,6 +33,7 @@ QVOfferDateCompletedViewBase {
             sourceSize: Qt.size(48, 48)
         }
         Text {
+            id: label
             horizontalAlignment: Text.AlignLeft
             anchors.left: icon.right
             anchors.leftMargin: 12
@@ -50,16 +51,24 @@ QVOfferDateCompletedViewBase {
             implicitWidth: 118
             implicitHeight: 40
             text: view.placeholder
-            Accessible.name: qsTr("Completion date: %1").arg(text)
+            // Set by the form when sending found no date.
+            property string errorText
+            Accessible.name: label.text + " " + text
+            Accessible.description: view.dateIconName.endsWith("_error") && errorText.length > 0
+                                    ? qsTr("Required, invalid: %1").arg(errorText) : qsTr("Required")
+            Accessible.ignored: overlayHidden
+            Accessible.onPressAction: clicked()
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()
             background: Rectangle {
                 radius: 8
                 color: theme.tint(theme.card, theme.accent, button.down ? 0.18 : 0.09)
-                border.width: button.visualFocus ? 2 : 0
-                border.color: theme.accent
+                FocusRing {
+                    shown: button.visualFocus
+                }
             }
             contentItem: Text {
+                Accessible.ignored: true
                 text: button.text
                 font.pixelSize: 16
                 font.bold: true

@@ -39,6 +39,10 @@ QVOfferTimeCompletedViewBase {
             anchors.topMargin: 4
             anchors.left: parent.left
             anchors.right: parent.right
+            // The question names the group of its choices.
+            Accessible.role: Accessible.Grouping
+            Accessible.name: question.text
+            Accessible.ignored: overlayHidden
             ChoiceRow {
                 id: yes
                 objectName: "yesButton"

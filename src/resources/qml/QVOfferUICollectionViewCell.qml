@@ -15,6 +15,20 @@ QVOfferUICollectionViewCellBase {
     creditsBtn: credits
     containerView: card
 
+    // The offer reads as one unit: what it is, what to do and what it pays. The keyboard
+    // stops on one offer of the list; the arrow keys go on from there.
+    readonly property string spokenPayout: dataSource ? dataSource.spokenAmount(cell.payoutTitle) : cell.payoutTitle
+    Accessible.role: Accessible.ListItem
+    Accessible.name: qsTr("%1, %2, %3", "an offer: its name, its task, its payout").arg(cell.offerName)
+                         .arg(cell.offerDescription).arg(cell.spokenPayout)
+    Accessible.ignored: !visible || (dataSource && dataSource.contentHidden)
+    activeFocusOnTab: dataSource && !dataSource.contentHidden && cell.row === Math.max(0, dataSource.focusedOffer)
+    Accessible.onPressAction: cell.onCreditsBtnPressed()
+    Keys.onReturnPressed: cell.onCreditsBtnPressed()
+    Keys.onEnterPressed: cell.onCreditsBtnPressed()
+    Keys.onSpacePressed: cell.onCreditsBtnPressed()
+    onActiveFocusChanged: if (activeFocus && dataSource) dataSource.offerCellFocused(cell.row)
+
     Rectangle {
         // A soft edge under the card.
         anchors.fill: card
@@ -34,6 +48,12 @@ QVOfferUICollectionViewCellBase {
         border.color: cell.borderColor
         color: theme.card
 
+        FocusRing {
+            target: card
+            shown: cell.activeFocus
+            cornerRadius: card.radius
+            surroundings: theme.background
+        }
         Rectangle {
             anchors.fill: thumb
             radius: thumb.cornerRadius
@@ -95,16 +115,13 @@ QVOfferUICollectionViewCellBase {
             width: Math.max(76, payout.implicitWidth + 24)
             height: 38
             radius: cell.cornerRadius
-            border.width: activeFocus ? 2 : cell.borderWidth
-            border.color: activeFocus ? theme.textPrimary : cell.borderColor
+            border.width: cell.borderWidth
+            border.color: cell.borderColor
             color: creditsTap.pressed ? theme.tint(theme.payoutButton, theme.payoutText, 0.15) : theme.payoutButton
-            activeFocusOnTab: true
             Accessible.role: Accessible.Button
-            Accessible.name: qsTr("Earn %1: %2").arg(cell.payoutTitle).arg(cell.offerName)
+            Accessible.name: qsTr("Earn %1").arg(cell.spokenPayout)
+            Accessible.ignored: cell.Accessible.ignored
             Accessible.onPressAction: cell.onCreditsBtnPressed()
-            Keys.onReturnPressed: cell.onCreditsBtnPressed()
-            Keys.onEnterPressed: cell.onCreditsBtnPressed()
-            Keys.onSpacePressed: cell.onCreditsBtnPressed()
             Text {
                 id: payout
                 anchors.centerIn: parent

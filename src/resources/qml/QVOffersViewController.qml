@@ -44,12 +44,27 @@ QVOffersViewControllerBase {
         cacheBuffer: 0
         reuseItems: true
         boundsBehavior: Flickable.StopAtBounds
+        // The arrow keys move through the offers, all of them, one offer at a time.
+        keyNavigationEnabled: false
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Offers")
+        Accessible.description: qsTr("%n offers", "", root.offerCount)
+        Accessible.ignored: root.contentHidden
+        Keys.onUpPressed: root.moveOfferFocus(-root.columns)
+        Keys.onDownPressed: root.moveOfferFocus(root.columns)
+        Keys.onLeftPressed: root.moveOfferFocus(root.rightToLeft ? 1 : -1)
+        Keys.onRightPressed: root.moveOfferFocus(root.rightToLeft ? -1 : 1)
+        Keys.onReturnPressed: root.activateFocusedOffer()
+        Keys.onEnterPressed: root.activateFocusedOffer()
+        Keys.onSpacePressed: root.activateFocusedOffer()
+        onContentYChanged: root.orderRows()
         delegate: Item {
             id: offersRow
             required property int index
             required property int generation
             width: ListView.view.width
             height: root.cellSize.height
+            onYChanged: root.orderRows()
             QVOfferUICollectionViewCell {
                 anchors.left: parent.left
                 width: root.cellSize.width
@@ -118,12 +133,16 @@ QVOffersViewControllerBase {
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.WordWrap
         visible: false
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text + " " + emptyDetail.text
+        Accessible.ignored: !visible || root.contentHidden
         text: qsTr("No offers right now")
         font.pixelSize: 19
         font.bold: true
         color: theme.textPrimary
     }
     Text {
+        id: emptyDetail
         anchors.top: emptyLabel.bottom
         anchors.topMargin: 8
         anchors.horizontalCenter: emptyLabel.horizontalCenter
@@ -144,7 +163,11 @@ QVOffersViewControllerBase {
         width: Math.min(list.width - 48, 300)
         spacing: 8
         visible: root.loadFailed
+        Accessible.role: Accessible.StaticText
+        Accessible.name: failedTitle.text + " " + failedDetail.text
+        Accessible.ignored: !visible || root.contentHidden
         Text {
+            id: failedTitle
             width: parent.width
             text: qsTr("Couldn't load offers")
             wrapMode: Text.WordWrap
@@ -154,6 +177,7 @@ QVOffersViewControllerBase {
             horizontalAlignment: Text.AlignHCenter
         }
         Text {
+            id: failedDetail
             width: parent.width
             text: qsTr("Check your connection and try again.")
             font.pixelSize: 15
@@ -167,6 +191,7 @@ QVOffersViewControllerBase {
             anchors.horizontalCenter: parent.horizontalCenter
             text: qsTr("Try again")
             Accessible.name: qsTr("Try loading the offers again")
+            Accessible.ignored: !root.loadFailed || root.contentHidden
             onClicked: root.onRetryPressed()
         }
     }
@@ -190,6 +215,7 @@ QVOffersViewControllerBase {
         Accessible.role: Accessible.AlertMessage
         Accessible.name: root.creditNoticeText
         Accessible.description: root.creditNoticeDetail
+        Accessible.ignored: !root.creditNoticeShown || root.contentHidden
 
         Text {
             id: noticeText
@@ -250,6 +276,7 @@ QVOffersViewControllerBase {
             anchors.leftMargin: 6
             icon: "icons/header-close.svg"
             accessibleName: qsTr("Close the offers")
+            hidden: root.headerHidden || root.contentHidden
             onClicked: root.onClosePressed()
         }
 
@@ -270,6 +297,9 @@ QVOffersViewControllerBase {
             font.bold: true
             color: theme.headerText
             elide: Text.ElideRight
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+            Accessible.ignored: root.headerHidden
         }
 
         Row {
@@ -281,6 +311,8 @@ QVOffersViewControllerBase {
                 objectName: "supportBtn"
                 icon: "icons/header-support.svg"
                 accessibleName: qsTr("Help and support")
+                hidden: root.headerHidden
+                tabStop: !root.contentHidden
                 onClicked: root.onSupportPressed()
             }
             HeaderButton {
@@ -288,6 +320,8 @@ QVOffersViewControllerBase {
                 objectName: "filterBtn"
                 icon: "icons/header-filter.svg"
                 accessibleName: qsTr("Sort and filter offers")
+                hidden: root.headerHidden
+                tabStop: !root.contentHidden
                 onClicked: root.onFilterPressed()
             }
         }

@@ -12,7 +12,11 @@ QVQACollectionViewCellBase {
 
     property string question
     property string answer
+    // Opened from the keyboard: the keyboard stays on the question.
+    property bool takesFocus: false
     signal selected()
+
+    Component.onCompleted: if (takesFocus) card.forceActiveFocus(Qt.OtherFocusReason)
 
     questionLabel: questionText
     answerLabel: answerText
@@ -28,14 +32,21 @@ QVQACollectionViewCellBase {
         Accessible.role: Accessible.Button
         Accessible.name: cell.question
         Accessible.description: cell.answer
+        Accessible.ignored: overlayHidden
+        Accessible.onPressAction: clicked()
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
         onClicked: cell.selected()
         background: Rectangle {
             radius: theme.cornerRadius
             color: theme.card
-            border.width: card.visualFocus ? 2 : 1
-            border.color: card.visualFocus ? theme.accent : theme.tint(theme.card, theme.accent, 0.3)
+            border.width: 1
+            border.color: theme.tint(theme.card, theme.accent, 0.3)
+            FocusRing {
+                shown: card.visualFocus
+                cornerRadius: theme.cornerRadius
+                surroundings: theme.card
+            }
         }
         contentItem: Item {
             Text {

@@ -25,14 +25,21 @@ QVQuestionCollectionViewCellBase {
         Accessible.role: Accessible.Button
         Accessible.name: cell.question
         Accessible.description: qsTr("Shows the answer")
+        Accessible.ignored: overlayHidden
+        Accessible.onPressAction: clicked()
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
         onClicked: cell.selected()
         background: Rectangle {
             radius: theme.cornerRadius
             color: card.down ? theme.tint(theme.card, theme.textPrimary, 0.06) : theme.card
-            border.width: card.visualFocus ? 2 : 1
-            border.color: card.visualFocus ? theme.accent : theme.separator
+            border.width: 1
+            border.color: theme.separator
+            FocusRing {
+                shown: card.visualFocus
+                cornerRadius: theme.cornerRadius
+                surroundings: theme.card
+            }
         }
         contentItem: Item {
             Text {

@@ -19,6 +19,9 @@ QVPopover {
         Label {
             anchors.verticalCenter: supportClose.verticalCenter
             anchors.horizontalCenter: parent.horizontalCenter
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+            Accessible.ignored: overlayHidden
             text: qsTr("Corvel Support")
             font.pixelSize: 16
             font.bold: true
@@ -39,10 +42,14 @@ QVPopover {
                 implicitHeight: 36
                 radius: width / 2
                 color: supportClose.down ? theme.tint(theme.card, theme.textPrimary, 0.06) : "transparent"
-                border.width: supportClose.visualFocus ? 2 : 0
-                border.color: theme.accent
+                FocusRing {
+                    shown: supportClose.visualFocus
+                    cornerRadius: parent.radius
+                }
             }
             Accessible.name: qsTr("Close support")
+            Accessible.ignored: overlayHidden
+            Accessible.onPressAction: clicked()
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()
             onClicked: popover.closeRequested()

@@ -22,15 +22,23 @@ QVSupportSendButtonViewBase {
         anchors.bottomMargin: 14
         text: qsTr("Send")
         Accessible.name: qsTr("Send the message")
+        Accessible.ignored: !visible || overlayHidden
+        Accessible.onPressAction: clicked()
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()
         background: Rectangle {
             radius: view.cornerRadius
-            border.width: send.visualFocus ? 3 : view.borderWidth
-            border.color: send.visualFocus ? theme.textPrimary : view.borderColor
+            border.width: view.borderWidth
+            border.color: view.borderColor
             color: send.down ? theme.tint(theme.accent, theme.textPrimary, 0.2) : theme.accent
+            FocusRing {
+                shown: send.visualFocus
+                cornerRadius: view.cornerRadius
+                surroundings: theme.background
+            }
         }
         contentItem: Text {
+            Accessible.ignored: true
             text: send.text
             font.pixelSize: 17
             font.bold: true

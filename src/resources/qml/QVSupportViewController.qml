@@ -32,6 +32,9 @@ QVSupportViewControllerBase {
         implicitWidth: 0
         padding: 2
         spacing: 2
+        Accessible.role: Accessible.PageTabList
+        Accessible.name: qsTr("Support sections")
+        Accessible.ignored: overlayHidden
         onCurrentIndexChanged: root.segmentChanged(currentIndex)
         background: Rectangle {
             radius: 9
@@ -44,14 +47,25 @@ QVSupportViewControllerBase {
                 required property string modelData
                 text: modelData
                 height: 30
+                // A tab of a tab list: the chosen one is selected, as a screen reader expects.
+                Accessible.role: Accessible.PageTab
                 Accessible.name: modelData
+                Accessible.checkable: false
+                Accessible.selectable: true
+                Accessible.selected: segment.checked
+                Accessible.ignored: overlayHidden
+                Accessible.onPressAction: tabs.setCurrentIndex(segment.TabBar.index)
                 background: Rectangle {
                     radius: 7
                     color: segment.checked ? theme.card : "transparent"
-                    border.width: segment.visualFocus ? 2 : 0
-                    border.color: theme.accent
+                    FocusRing {
+                        shown: segment.visualFocus
+                        cornerRadius: 7
+                        surroundings: theme.tint(theme.background, theme.textPrimary, 0.06)
+                    }
                 }
                 contentItem: Text {
+                    Accessible.ignored: true
                     text: segment.text
                     font.pixelSize: 14
                     font.bold: segment.checked
@@ -89,6 +103,8 @@ QVSupportViewControllerBase {
         font.bold: true
         color: theme.card
         Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+        Accessible.ignored: !visible || overlayHidden
         background: Item {
             Rectangle {
                 anchors.fill: parent

@@ -20,7 +20,9 @@ QVTransactionCollectionViewCellBase {
     markerView: marker
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: offerName + ", " + payout + ", " + timestamp
+    Accessible.name: qsTr("%1, %2, credited %3", "a credit: the offer, the amount, when").arg(offerName)
+                         .arg(spokenAmount(payout)).arg(timestamp)
+    Accessible.ignored: overlayHidden
 
     Rectangle {
         id: card
@@ -97,6 +99,7 @@ QVTransactionCollectionViewCellBase {
             Label {
                 id: status
                 objectName: "statusLabel"
+                Accessible.ignored: true // the row says it
                 text: qsTr("Credited")
                 font.pixelSize: 12
                 font.bold: true

@@ -34,6 +34,9 @@ QVUnableToAssistBase {
         }
         Column {
             id: texts
+            Accessible.role: Accessible.StaticText
+            Accessible.name: heading.text + " " + detail.text
+            Accessible.ignored: overlayHidden
             anchors.left: icon.right
             anchors.right: parent.right
             anchors.leftMargin: 12
@@ -41,6 +44,7 @@ QVUnableToAssistBase {
             anchors.verticalCenter: parent.verticalCenter
             spacing: 2
             Text {
+                id: heading
                 horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: qsTr("Rewards can take up to 24 hours")
@@ -50,6 +54,7 @@ QVUnableToAssistBase {
                 wrapMode: Text.Wrap
             }
             Text {
+                id: detail
                 horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: qsTr("Please check back tomorrow; we can't look into it sooner.")

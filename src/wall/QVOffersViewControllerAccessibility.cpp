@@ -1,0 +1,278 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
+// What a screen reader and the keyboard need of the wall: the offers in screen order, the
+// keyboard's place in the list, overlays that are modal for both, and focus that goes back
+// where it was when an overlay or an alert closes.
+#include "QVOffersViewController.h"
+#include "QVOffersViewControllerPrivate.h"
+#include "QVOfferUICollectionViewCell.h"
+#include "QVOffersListModel.h"
+#include "DeviceIdiom.h"
+
+#include <QtCore/QTimer>
+#include <QtGui/QKeyEvent>
+#include <QtQuick/QQuickWindow>
+
+#include <algorithm>
+
+namespace {
+constexpr int kListViewContain = 4; // ListView.Contain
+constexpr const char *kAmount = QT_TRANSLATE_NOOP("QVOffersViewController", "%1 %2");
+constexpr const char *kNegativeAmount = QT_TRANSLATE_NOOP("QVOffersViewController", "minus %1 %2");
+// Frames to wait for an overlay's controls to be built before giving up on focusing one.
+constexpr int kFocusAttempts = 30;
+
+bool isDescendant(const QQuickItem *item, const QQuickItem *ancestor)
+{
+    for (; item; item = item->parentItem()) {
+        if (item == ancestor)
+            return true;
+    }
+    return false;
+}
+
+// The first item in the keyboard's order inside root, or none yet.
+QQuickItem *firstFocusableIn(QQuickItem *root)
+{
+    QQuickItem *next = root;
+    for (int i = 0; i < 1000; ++i) {
+        next = next->nextItemInFocusChain(true);
+        if (!next || next == root)
+            return nullptr;
+        if (isDescendant(next, root))
+            return next->isVisible() && next->isEnabled() ? next : nullptr;
+    }
+    return nullptr;
+}
+
+// Moves the keyboard onto the first control of root once it is built: panels lay out
+// their lists on their first frames.
+void focusFirstWhenBuilt(QQuickItem *root, int attemptsLeft = kFocusAttempts)
+{
+    if (!root)
+        return;
+    if (QQuickItem *first = firstFocusableIn(root)) {
+        first->forceActiveFocus(Qt::TabFocusReason);
+        return;
+    }
+    if (attemptsLeft == 0 || !root->window())
+        return;
+    QPointer<QQuickItem> guard(root);
+    QObject::connect(root->window(), &QQuickWindow::afterAnimating, root, [guard, attemptsLeft] {
+        if (guard)
+            focusFirstWhenBuilt(guard, attemptsLeft - 1);
+    }, Qt::SingleShotConnection);
+    root->window()->update();
+}
+} // namespace
+
+QString QVOffersViewController::currencyName() const
+{
+    return d_func()->m_currencyName;
+}
+
+bool QVOffersViewController::isContentHidden() const
+{
+    return d_func()->m_contentHidden;
+}
+
+bool QVOffersViewController::isHeaderHidden() const
+{
+    return d_func()->m_headerHidden;
+}
+
+bool QVOffersViewController::isOverlayHidden() const
+{
+    return d_func()->m_overlayHidden;
+}
+
+int QVOffersViewController::focusedOffer() const
+{
+    return d_func()->m_focusedOffer;
+}
+
+QString QVOffersViewController::spokenAmount(const QString &amount) const
+{
+    QString number = amount.trimmed();
+    if (number.startsWith(u'+'))
+        number.remove(0, 1);
+    const bool negative = number.startsWith(u'-');
+    if (negative)
+        number.remove(0, 1);
+    const QString text = tr(negative ? kNegativeAmount : kAmount).arg(number, d_func()->m_currencyName);
+    return text.trimmed();
+}
+
+void QVOffersViewController::updateModality()
+{
+    Q_D(QVOffersViewController);
+    d->m_openAlerts.removeAll(nullptr);
+    const auto shown = [](QObject *popover) { return popover && popover->property("visible").toBool(); };
+    const bool popoverOpen = shown(d->m_filterPopover) || shown(d->m_supportPopover);
+    const bool overlayOpen = d->m_isFiltersViewOpen || d->m_isSupportViewOpen || popoverOpen;
+    const bool alertOpen = !d->m_openAlerts.isEmpty();
+    const bool content = overlayOpen || alertOpen;
+    const bool header = popoverOpen || alertOpen;
+    const bool overlay = alertOpen && overlayOpen;
+    if (content == d->m_contentHidden && header == d->m_headerHidden && overlay == d->m_overlayHidden)
+        return;
+    d->m_contentHidden = content;
+    d->m_headerHidden = header;
+    d->m_overlayHidden = overlay;
+    emit modalityChanged();
+}
+
+void QVOffersViewController::overlayWillOpen(QQuickItem *opener)
+{
+    QQuickItem *focused = window() ? window()->activeFocusItem() : nullptr;
+    d_func()->m_focusBeforeOverlay = focused && isDescendant(focused, this) ? focused : opener;
+}
+
+void QVOffersViewController::overlayDidOpen(QQuickItem *content)
+{
+    // The keyboard leaves what is now behind before that leaves the Tab order.
+    if (content)
+        content->forceActiveFocus(Qt::OtherFocusReason);
+    updateModality();
+    focusFirstWhenBuilt(content);
+}
+
+void QVOffersViewController::overlayDidClose()
+{
+    updateModality();
+    if (d_func()->m_contentHidden)
+        return;
+    // The keyboard goes back to what opened the overlay.
+    QQuickItem *back = d_func()->m_focusBeforeOverlay;
+    d_func()->m_focusBeforeOverlay = nullptr;
+    if (back && back->isVisible() && isDescendant(back, this))
+        back->forceActiveFocus(Qt::OtherFocusReason);
+}
+
+void QVOffersViewController::alertOpened(QObject *alert)
+{
+    Q_D(QVOffersViewController);
+    QQuickItem *focused = window() ? window()->activeFocusItem() : nullptr;
+    QPointer<QQuickItem> back(focused);
+    d->m_openAlerts.append(alert);
+    updateModality();
+    if (auto *action = alert->findChild<QQuickItem *>(QStringLiteral("alertAction")))
+        action->forceActiveFocus(Qt::TabFocusReason);
+    // Closed, it goes; the keyboard goes back to where it was.
+    QObject::connect(alert, &QObject::destroyed, this, [this, back] {
+        updateModality();
+        if (back && back->isVisible())
+            back->forceActiveFocus(Qt::OtherFocusReason);
+    });
+}
+
+void QVOffersViewController::moveOfferFocus(int step)
+{
+    Q_D(QVOffersViewController);
+    const int count = d->m_offers->count();
+    if (count == 0)
+        return;
+    const int from = d->m_focusedOffer < 0 ? qMax(0, firstOfferOnScreen()) : d->m_focusedOffer;
+    const int to = std::clamp(d->m_focusedOffer < 0 ? from : from + step, 0, count - 1);
+    if (to != d->m_focusedOffer) {
+        d->m_focusedOffer = to;
+        emit focusedOfferChanged();
+    }
+    // Brought onto the screen; its row's cell is built by then, and the next page is
+    // asked for when the last one is.
+    if (d->m_collectionView)
+        QMetaObject::invokeMethod(d->m_collectionView, "positionViewAtIndex", Q_ARG(int, to / qMax(1, columns())),
+                                  Q_ARG(int, kListViewContain));
+    focusOfferCell();
+}
+
+void QVOffersViewController::focusOfferCell()
+{
+    Q_D(QVOffersViewController);
+    if (!d->m_collectionView)
+        return;
+    auto *content = d->m_collectionView->property("contentItem").value<QQuickItem *>();
+    QList<QQuickItem *> items = content ? content->childItems() : QList<QQuickItem *>();
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        auto *cell = qobject_cast<QVOfferUICollectionViewCell *>(items[i]);
+        if (!cell) {
+            items += items[i]->childItems();
+            continue;
+        }
+        if (cell->row() == d->m_focusedOffer && cell->isVisible()) {
+            cell->forceActiveFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
+}
+
+void QVOffersViewController::offerCellFocused(int row)
+{
+    if (row == d_func()->m_focusedOffer || row < 0)
+        return;
+    d_func()->m_focusedOffer = row;
+    emit focusedOfferChanged();
+}
+
+void QVOffersViewController::activateFocusedOffer()
+{
+    const int row = d_func()->m_focusedOffer;
+    if (row >= 0 && row < d_func()->m_offers->count())
+        onCreditsPressed(d_func()->m_offers->at(row).clickURL());
+}
+
+void QVOffersViewController::orderRows()
+{
+    // Once per frame however many rows moved.
+    if (d_func()->m_rowsOrderPending)
+        return;
+    d_func()->m_rowsOrderPending = true;
+    polish();
+}
+
+void QVOffersViewController::keyPressEvent(QKeyEvent *event)
+{
+    Q_D(QVOffersViewController);
+    // Escape closes what is open, the topmost first: an alert closes itself.
+    if (event->key() == Qt::Key_Escape && d->m_openAlerts.isEmpty()) {
+        if (d->m_isFiltersViewOpen) {
+            closeFiltersView();
+            return;
+        }
+        if (d->m_isSupportViewOpen) {
+            closeSupportView();
+            return;
+        }
+    }
+    QQuickItem::keyPressEvent(event);
+}
+
+void QVOffersViewController::putRowsInScreenOrder()
+{
+    Q_D(QVOffersViewController);
+    d->m_rowsOrderPending = false;
+    auto *content = d->m_collectionView ? d->m_collectionView->property("contentItem").value<QQuickItem *>() : nullptr;
+    if (!content)
+        return;
+    // Reused rows keep their place among the list's children whatever their place on
+    // screen; the accessibility tree reads children in that order.
+    QList<QQuickItem *> rows;
+    for (QQuickItem *child : content->childItems()) {
+        if (child->property("generation").isValid())
+            rows.append(child);
+    }
+    std::stable_sort(rows.begin(), rows.end(), [](QQuickItem *a, QQuickItem *b) { return a->y() < b->y(); });
+    for (qsizetype i = 1; i < rows.size(); ++i)
+        rows[i]->stackAfter(rows[i - 1]);
+    // Scrolled by touch while the keyboard was elsewhere: Tab comes back to the list at
+    // the first offer on screen.
+    QQuickItem *focused = window() ? window()->activeFocusItem() : nullptr;
+    if (!focused || !isDescendant(focused, d->m_collectionView)) {
+        const int first = firstOfferOnScreen();
+        if (first >= 0 && first != d->m_focusedOffer) {
+            d->m_focusedOffer = first;
+            emit focusedOfferChanged();
+        }
+    }
+}

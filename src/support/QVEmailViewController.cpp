@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "QVEmailViewController.h"
+#include "FocusChain.h"
+
+#include <QtQuick/QQuickWindow>
 #include "QVEmailViewControllerPrivate.h"
 #include "AssignIfChanged.h"
 #include "QVComponentFactory.h"
@@ -33,6 +36,20 @@ QVEmailViewController::QVEmailViewController(QQuickItem *parent)
     : QQuickItem(parent), m_d(std::make_unique<QVEmailViewControllerPrivate>())
 {
     setFlag(ItemIsFocusScope, true);
+    // What the keyboard moves to is scrolled into view, as a tap's target already is.
+    connect(this, &QQuickItem::windowChanged, this, [this](QQuickWindow *window) {
+        if (window)
+            connect(window, &QQuickWindow::activeFocusItemChanged, this, &QVEmailViewController::keepFocusInView,
+                    Qt::UniqueConnection);
+    });
+}
+
+void QVEmailViewController::keepFocusInView()
+{
+    QQuickItem *focused = window() ? window()->activeFocusItem() : nullptr;
+    QQuickItem *content = d_func()->m_contentView;
+    if (focused && content && content->isAncestorOf(focused))
+        scrollRectToVisible(focused->mapRectToItem(content, focused->boundingRect()));
 }
 
 QVEmailViewController::~QVEmailViewController() = default;
@@ -380,6 +397,8 @@ void QVEmailViewController::dateInputFieldPressed()
 {
     endEditing();
     fadeDatePanel(1);
+    // The keyboard goes to the wheels, and back to the button with Done.
+    quorva::detail::focusFirstWhenBuilt(d_func()->m_uiDatePicker);
 }
 
 void QVEmailViewController::onDateDonePressed()
@@ -388,8 +407,10 @@ void QVEmailViewController::onDateDonePressed()
     if (d_func()->m_uiDatePicker)
         d_func()->m_chosenDate = d_func()->m_uiDatePicker->property("date").toDate();
     d_func()->m_offerDateCompletedView->dateValidated();
-    if (QQuickItem *button = d_func()->m_offerDateCompletedView->dateBtn())
+    if (QQuickItem *button = d_func()->m_offerDateCompletedView->dateBtn()) {
         button->setProperty("text", d_func()->m_chosenDate.toString(kDateDisplayFormat));
+        button->forceActiveFocus(Qt::OtherFocusReason);
+    }
 }
 
 QString QVEmailViewController::textOf(QQuickItem *input) const

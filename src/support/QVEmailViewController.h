@@ -190,6 +190,7 @@ private:
     Q_DECL_HIDDEN void hideDatePanelAtOnce();
     Q_DECL_HIDDEN void fadeDatePanel(qreal opacity);
     Q_DECL_HIDDEN void scrollRectToVisible(const QRectF &rect);
+    Q_DECL_HIDDEN void keepFocusInView();
     Q_DECL_HIDDEN void endEditing();
     Q_DECL_HIDDEN QString textOf(QQuickItem *input) const;
     Q_DECL_HIDDEN void watchKeyboard();

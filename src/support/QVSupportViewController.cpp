@@ -13,6 +13,7 @@
 
 #include <QtQml/QQmlContext>
 #include <QtQml/QQmlEngine>
+#include <QtQuick/QQuickWindow>
 
 namespace {
 constexpr QLatin1StringView kFormBackground("#F2F2F2");
@@ -125,6 +126,12 @@ void QVSupportViewController::segmentChanged(int index)
         return;
     d_func()->m_shownSegment = index;
     onViewTypeChange(index);
+    // A keyboard left in the page just hidden goes to the tab that is shown now.
+    QQuickItem *focused = window() ? window()->activeFocusItem() : nullptr;
+    if (focused && isAncestorOf(focused) && !focused->isVisible() && d_func()->m_segmentedControl) {
+        if (auto *tab = d_func()->m_segmentedControl->property("currentItem").value<QQuickItem *>())
+            tab->forceActiveFocus(Qt::OtherFocusReason);
+    }
 }
 
 void QVSupportViewController::invalidInputMessage(const QString &message)

@@ -424,6 +424,11 @@ void QVOffersViewController::watchForFirstOffersOnScreen()
         d_func()->m_offersShownPending = false;
         d_func()->m_offersShown = true;
         qCDebug(lcQuorvaDiagnostics, "first offers on screen");
+        // A window that gave the focus to nothing else gives it to the list, so a screen
+        // reader starts there and the arrow keys work at once; no ring shows until they do.
+        if (window() && d_func()->m_collectionView
+            && (!window()->activeFocusItem() || window()->activeFocusItem() == window()->contentItem()))
+            d_func()->m_collectionView->forceActiveFocus(Qt::OtherFocusReason);
         emit offersShown();
     }, Qt::QueuedConnection);
     host->update();

@@ -9,6 +9,7 @@
 #include "QVOfferUICollectionViewCell.h"
 #include "QVOffersListModel.h"
 #include "DeviceIdiom.h"
+#include "FocusChain.h"
 
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
@@ -16,55 +17,14 @@
 
 #include <algorithm>
 
+using quorva::detail::focusFirstWhenBuilt;
+using quorva::detail::isDescendant;
+
 namespace {
 constexpr int kListViewContain = 4; // ListView.Contain
 constexpr const char *kAmount = QT_TRANSLATE_NOOP("QVOffersViewController", "%1 %2");
 constexpr const char *kNegativeAmount = QT_TRANSLATE_NOOP("QVOffersViewController", "minus %1 %2");
-// Frames to wait for an overlay's controls to be built before giving up on focusing one.
-constexpr int kFocusAttempts = 30;
 
-bool isDescendant(const QQuickItem *item, const QQuickItem *ancestor)
-{
-    for (; item; item = item->parentItem()) {
-        if (item == ancestor)
-            return true;
-    }
-    return false;
-}
-
-// The first item in the keyboard's order inside root, or none yet.
-QQuickItem *firstFocusableIn(QQuickItem *root)
-{
-    QQuickItem *next = root;
-    for (int i = 0; i < 1000; ++i) {
-        next = next->nextItemInFocusChain(true);
-        if (!next || next == root)
-            return nullptr;
-        if (isDescendant(next, root))
-            return next->isVisible() && next->isEnabled() ? next : nullptr;
-    }
-    return nullptr;
-}
-
-// Moves the keyboard onto the first control of root once it is built: panels lay out
-// their lists on their first frames.
-void focusFirstWhenBuilt(QQuickItem *root, int attemptsLeft = kFocusAttempts)
-{
-    if (!root)
-        return;
-    if (QQuickItem *first = firstFocusableIn(root)) {
-        first->forceActiveFocus(Qt::TabFocusReason);
-        return;
-    }
-    if (attemptsLeft == 0 || !root->window())
-        return;
-    QPointer<QQuickItem> guard(root);
-    QObject::connect(root->window(), &QQuickWindow::afterAnimating, root, [guard, attemptsLeft] {
-        if (guard)
-            focusFirstWhenBuilt(guard, attemptsLeft - 1);
-    }, Qt::SingleShotConnection);
-    root->window()->update();
-}
 } // namespace
 
 QString QVOffersViewController::currencyName() const
@@ -125,8 +85,8 @@ void QVOffersViewController::updateModality()
 
 void QVOffersViewController::overlayWillOpen(QQuickItem *opener)
 {
-    QQuickItem *focused = window() ? window()->activeFocusItem() : nullptr;
-    d_func()->m_focusBeforeOverlay = focused && isDescendant(focused, this) ? focused : opener;
+    // Closed, the overlay gives the keyboard back to the control that opened it.
+    d_func()->m_focusBeforeOverlay = opener;
 }
 
 void QVOffersViewController::overlayDidOpen(QQuickItem *content)
@@ -159,11 +119,15 @@ void QVOffersViewController::alertOpened(QObject *alert)
     updateModality();
     if (auto *action = alert->findChild<QQuickItem *>(QStringLiteral("alertAction")))
         action->forceActiveFocus(Qt::TabFocusReason);
-    // Closed, it goes; the keyboard goes back to where it was.
-    QObject::connect(alert, &QObject::destroyed, this, [this, back] {
+    // Closed, it goes; the keyboard goes back to where it was or, when that went with
+    // what the alert said (a sent form is emptied), to the first control of what it covered.
+    QPointer<QQuickItem> covered(alert->property("parent").value<QQuickItem *>());
+    QObject::connect(alert, &QObject::destroyed, this, [this, back, covered] {
         updateModality();
         if (back && back->isVisible())
             back->forceActiveFocus(Qt::OtherFocusReason);
+        else
+            focusFirstWhenBuilt(covered);
     });
 }
 

@@ -6,8 +6,9 @@ import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 
 // A row of a checkmark chooser: its text and the checkmark that marks the choice. The
-// chooser alone shows and hides the checkmark.
-AbstractButton {
+// chooser alone shows and hides the checkmark. A radio button to a screen reader: its
+// class gives it that role, which a control does not take from QML.
+RadioButton {
     id: row
 
     property alias checkmark: check
@@ -16,11 +17,16 @@ AbstractButton {
 
     implicitHeight: 52
     focusPolicy: Qt.StrongFocus
-    Accessible.role: Accessible.RadioButton
+    // The chooser decides what is chosen: a press never checks the button by itself.
+    checkable: false
+    autoExclusive: false
+    indicator: Item {}
     Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: check.visible
-    Accessible.ignored: overlayHidden
+    // The button puts its own checked state there when it is read; the mark's is put back.
+    Accessible.onCheckedChanged: if (Accessible.checked !== check.visible) Accessible.checked = check.visible
+    Accessible.ignored: !visible || overlayHidden
     // A screen reader's press and toggle choose the row, as a tap does.
     Accessible.onPressAction: clicked()
     Accessible.onToggleAction: clicked()

@@ -26,6 +26,7 @@ Item {
     activeFocusOnTab: true
     Accessible.role: Accessible.SpinBox
     Accessible.description: wheel.valueText
+    Accessible.ignored: !visible || overlayHidden
     Keys.onUpPressed: tumbler.currentIndex = Math.max(tumbler.currentIndex - 1, 0)
     Keys.onDownPressed: tumbler.currentIndex = Math.min(tumbler.currentIndex + 1, tumbler.count - 1)
     Accessible.onIncreaseAction: tumbler.currentIndex = Math.min(tumbler.currentIndex + 1, tumbler.count - 1)

@@ -16,10 +16,15 @@ TextField {
     property bool inError: false
     signal clearPressed()
 
+    // What a screen reader says after the field's label.
+    readonly property string spokenState: inError && errorText.length > 0 ? qsTr("Required, invalid: %1").arg(errorText)
+                                                                         : qsTr("Required")
     Accessible.name: label
-    Accessible.description: inError && errorText.length > 0 ? qsTr("Required, invalid: %1").arg(errorText)
-                                                             : qsTr("Required")
-    Accessible.ignored: overlayHidden
+    Accessible.description: spokenState
+    // The field puts its placeholder there when it is read; the state is put back.
+    Accessible.onDescriptionChanged: if (Accessible.description !== spokenState) Accessible.description = spokenState
+    onSpokenStateChanged: Accessible.description = spokenState
+    Accessible.ignored: !visible || overlayHidden
 
     leftPadding: 0
     rightPadding: clear.visible ? clear.width + 4 : 0

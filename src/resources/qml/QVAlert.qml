@@ -26,7 +26,8 @@ Dialog {
         color: theme.card
     }
 
-    header: Label {
+    // Plain text: a control would put its own role over the heading's.
+    header: Text {
         Accessible.role: Accessible.Heading
         Accessible.name: text
         text: alert.title

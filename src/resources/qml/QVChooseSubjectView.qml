@@ -49,7 +49,7 @@ QVChooseSubjectViewBase {
             // The question names the group of its choices.
             Accessible.role: Accessible.Grouping
             Accessible.name: title.text
-            Accessible.ignored: overlayHidden
+            Accessible.ignored: !visible || overlayHidden
             ChoiceRow {
                 id: notCredited
                 objectName: "notCreditBtn"

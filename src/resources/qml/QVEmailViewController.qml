@@ -71,6 +71,7 @@ QVEmailViewControllerBase {
             flat: true
             text: qsTr("Done")
             Accessible.name: qsTr("Done choosing the date")
+            Accessible.ignored: !visible || overlayHidden
             Accessible.onPressAction: clicked()
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()

@@ -62,10 +62,15 @@ QVEnterCommentViewBase {
                     shown: area.activeFocus
                 }
             }
+            // What a screen reader says after the field's label.
+            readonly property string spokenState: inError && errorText.length > 0
+                                                  ? qsTr("Required, invalid: %1").arg(errorText) : qsTr("Required")
             Accessible.name: qsTr("Message")
-            Accessible.description: inError && errorText.length > 0 ? qsTr("Required, invalid: %1").arg(errorText)
-                                                                    : qsTr("Required")
-            Accessible.ignored: overlayHidden
+            Accessible.description: spokenState
+            // The field puts its placeholder there when it is read; the state is put back.
+            Accessible.onDescriptionChanged: if (Accessible.description !== spokenState) Accessible.description = spokenState
+            onSpokenStateChanged: Accessible.description = spokenState
+            Accessible.ignored: !visible || overlayHidden
             onTextChanged: view.commentTextChanged()
             // Tab leaves the message instead of typing a tab into it.
             Keys.onTabPressed: area.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
@@ -83,7 +88,7 @@ QVEnterCommentViewBase {
             color: theme.textSecondary
             Accessible.role: Accessible.StaticText
             Accessible.name: qsTr("%1 characters left").arg(text)
-            Accessible.ignored: overlayHidden
+            Accessible.ignored: !visible || overlayHidden
         }
     }
 }

@@ -22,7 +22,7 @@ QVFAQViewControllerBase {
         ScrollIndicator.vertical: ScrollIndicator { Accessible.ignored: true }
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Frequently asked questions")
-        Accessible.ignored: overlayHidden
+        Accessible.ignored: !visible || overlayHidden
 
         delegate: DelegateChooser {
             role: "expanded"

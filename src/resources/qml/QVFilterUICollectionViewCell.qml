@@ -20,7 +20,7 @@ QVFilterUICollectionViewCellBase {
     Accessible.name: title
     Accessible.checkable: true
     Accessible.checked: selected
-    Accessible.ignored: overlayHidden
+    Accessible.ignored: !visible || overlayHidden
     Accessible.onPressAction: cell.pressed()
     Accessible.onToggleAction: cell.pressed()
     Keys.onReturnPressed: cell.pressed()

@@ -14,7 +14,7 @@ QVFilterUICollectionViewHeaderBase {
     implicitHeight: 44
     Accessible.role: Accessible.Heading
     Accessible.name: title
-    Accessible.ignored: overlayHidden
+    Accessible.ignored: !visible || overlayHidden
 
     Label {
         id: label

@@ -23,7 +23,7 @@ QVHistoryViewControllerBase {
         ScrollIndicator.vertical: ScrollIndicator { Accessible.ignored: true }
         Accessible.role: Accessible.List
         Accessible.name: qsTr("Credited offers")
-        Accessible.ignored: overlayHidden || count === 0
+        Accessible.ignored: !visible || overlayHidden || count === 0
         delegate: QVTransactionCollectionViewCell {
             required offerName
             required timestamp

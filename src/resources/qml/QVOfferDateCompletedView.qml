@@ -56,7 +56,7 @@ QVOfferDateCompletedViewBase {
             Accessible.name: label.text + " " + text
             Accessible.description: view.dateIconName.endsWith("_error") && errorText.length > 0
                                     ? qsTr("Required, invalid: %1").arg(errorText) : qsTr("Required")
-            Accessible.ignored: overlayHidden
+            Accessible.ignored: !visible || overlayHidden
             Accessible.onPressAction: clicked()
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()

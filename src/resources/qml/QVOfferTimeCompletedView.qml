@@ -42,7 +42,7 @@ QVOfferTimeCompletedViewBase {
             // The question names the group of its choices.
             Accessible.role: Accessible.Grouping
             Accessible.name: question.text
-            Accessible.ignored: overlayHidden
+            Accessible.ignored: !visible || overlayHidden
             ChoiceRow {
                 id: yes
                 objectName: "yesButton"

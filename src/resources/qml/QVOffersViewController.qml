@@ -29,6 +29,85 @@ QVOffersViewControllerBase {
         color: theme.background
     }
 
+    // First in the reading order and the keyboard's, above the list in the paint order.
+    Rectangle {
+        id: header
+        objectName: "headerView"
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        height: root.headerHeight
+        z: 2
+        gradient: Gradient {
+            orientation: Gradient.Horizontal
+            GradientStop { position: 0.0; color: theme.headerStart }
+            GradientStop { position: 1.0; color: theme.headerEnd }
+        }
+
+        MouseArea {
+            anchors.fill: parent
+            onClicked: root.headerTapped()
+        }
+
+        HeaderButton {
+            id: closeButton
+            objectName: "closeBtn"
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            anchors.leftMargin: 6
+            icon: "icons/header-close.svg"
+            accessibleName: qsTr("Close the offers")
+            hidden: root.headerHidden || root.contentHidden
+            onClicked: root.onClosePressed()
+        }
+
+        Text {
+            id: title
+            objectName: "headerTitle"
+            anchors.centerIn: parent
+            width: parent.width - 2 * 100
+            height: parent.height - 12
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            // A long title takes two lines and gets smaller before it is cut.
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            fontSizeMode: Text.Fit
+            minimumPixelSize: 11
+            font.pixelSize: 18
+            font.bold: true
+            color: theme.headerText
+            elide: Text.ElideRight
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+            Accessible.ignored: root.headerHidden
+        }
+
+        Row {
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            anchors.rightMargin: 6
+            HeaderButton {
+                id: supportButton
+                objectName: "supportBtn"
+                icon: "icons/header-support.svg"
+                accessibleName: qsTr("Help and support")
+                hidden: root.headerHidden
+                tabStop: !root.contentHidden
+                onClicked: root.onSupportPressed()
+            }
+            HeaderButton {
+                id: filterButton
+                objectName: "filterBtn"
+                icon: "icons/header-filter.svg"
+                accessibleName: qsTr("Sort and filter offers")
+                hidden: root.headerHidden
+                tabStop: !root.contentHidden
+                onClicked: root.onFilterPressed()
+            }
+        }
+    }
+
     // Rows of one offer, or two side by side on a wide wall. Rows leaving the screen are
     // reused for rows coming in; none are built ahead of need.
     ListView {
@@ -246,84 +325,6 @@ QVOffersViewControllerBase {
         MouseArea {
             anchors.fill: parent
             onClicked: root.dismissCreditNotice()
-        }
-    }
-
-    Rectangle {
-        id: header
-        objectName: "headerView"
-        anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.top: parent.top
-        height: root.headerHeight
-        z: 2
-        gradient: Gradient {
-            orientation: Gradient.Horizontal
-            GradientStop { position: 0.0; color: theme.headerStart }
-            GradientStop { position: 1.0; color: theme.headerEnd }
-        }
-
-        MouseArea {
-            anchors.fill: parent
-            onClicked: root.headerTapped()
-        }
-
-        HeaderButton {
-            id: closeButton
-            objectName: "closeBtn"
-            anchors.left: parent.left
-            anchors.verticalCenter: parent.verticalCenter
-            anchors.leftMargin: 6
-            icon: "icons/header-close.svg"
-            accessibleName: qsTr("Close the offers")
-            hidden: root.headerHidden || root.contentHidden
-            onClicked: root.onClosePressed()
-        }
-
-        Text {
-            id: title
-            objectName: "headerTitle"
-            anchors.centerIn: parent
-            width: parent.width - 2 * 100
-            height: parent.height - 12
-            horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
-            // A long title takes two lines and gets smaller before it is cut.
-            wrapMode: Text.Wrap
-            maximumLineCount: 2
-            fontSizeMode: Text.Fit
-            minimumPixelSize: 11
-            font.pixelSize: 18
-            font.bold: true
-            color: theme.headerText
-            elide: Text.ElideRight
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
-            Accessible.ignored: root.headerHidden
-        }
-
-        Row {
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            anchors.rightMargin: 6
-            HeaderButton {
-                id: supportButton
-                objectName: "supportBtn"
-                icon: "icons/header-support.svg"
-                accessibleName: qsTr("Help and support")
-                hidden: root.headerHidden
-                tabStop: !root.contentHidden
-                onClicked: root.onSupportPressed()
-            }
-            HeaderButton {
-                id: filterButton
-                objectName: "filterBtn"
-                icon: "icons/header-filter.svg"
-                accessibleName: qsTr("Sort and filter offers")
-                hidden: root.headerHidden
-                tabStop: !root.contentHidden
-                onClicked: root.onFilterPressed()
-            }
         }
     }
 }

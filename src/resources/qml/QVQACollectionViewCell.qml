@@ -32,7 +32,7 @@ QVQACollectionViewCellBase {
         Accessible.role: Accessible.Button
         Accessible.name: cell.question
         Accessible.description: cell.answer
-        Accessible.ignored: overlayHidden
+        Accessible.ignored: !visible || overlayHidden
         Accessible.onPressAction: clicked()
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()

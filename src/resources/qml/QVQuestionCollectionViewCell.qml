@@ -25,7 +25,7 @@ QVQuestionCollectionViewCellBase {
         Accessible.role: Accessible.Button
         Accessible.name: cell.question
         Accessible.description: qsTr("Shows the answer")
-        Accessible.ignored: overlayHidden
+        Accessible.ignored: !visible || overlayHidden
         Accessible.onPressAction: clicked()
         Keys.onReturnPressed: clicked()
         Keys.onEnterPressed: clicked()

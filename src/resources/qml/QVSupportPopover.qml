@@ -16,12 +16,13 @@ QVPopover {
         LayoutMirroring.enabled: rightToLeft
         LayoutMirroring.childrenInherit: true
         clip: true
-        Label {
+        // Plain text: a control would put its own role over the heading's.
+        Text {
             anchors.verticalCenter: supportClose.verticalCenter
             anchors.horizontalCenter: parent.horizontalCenter
             Accessible.role: Accessible.Heading
             Accessible.name: text
-            Accessible.ignored: overlayHidden
+            Accessible.ignored: !visible || overlayHidden
             text: qsTr("Corvel Support")
             font.pixelSize: 16
             font.bold: true
@@ -48,7 +49,7 @@ QVPopover {
                 }
             }
             Accessible.name: qsTr("Close support")
-            Accessible.ignored: overlayHidden
+            Accessible.ignored: !visible || overlayHidden
             Accessible.onPressAction: clicked()
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()

@@ -34,7 +34,7 @@ QVSupportViewControllerBase {
         spacing: 2
         Accessible.role: Accessible.PageTabList
         Accessible.name: qsTr("Support sections")
-        Accessible.ignored: overlayHidden
+        Accessible.ignored: !visible || overlayHidden
         onCurrentIndexChanged: root.segmentChanged(currentIndex)
         background: Rectangle {
             radius: 9
@@ -50,10 +50,13 @@ QVSupportViewControllerBase {
                 // A tab of a tab list: the chosen one is selected, as a screen reader expects.
                 Accessible.role: Accessible.PageTab
                 Accessible.name: modelData
-                Accessible.checkable: false
+                // A tab is selected, not checked: the button writes its checked state into
+                // the accessibility tree itself, so it is taken back each time.
+                Accessible.onCheckableChanged: if (Accessible.checkable) Accessible.checkable = false
+                Accessible.onCheckedChanged: if (Accessible.checked) Accessible.checked = false
                 Accessible.selectable: true
                 Accessible.selected: segment.checked
-                Accessible.ignored: overlayHidden
+                Accessible.ignored: !visible || overlayHidden
                 Accessible.onPressAction: tabs.setCurrentIndex(segment.TabBar.index)
                 background: Rectangle {
                     radius: 7
@@ -102,9 +105,8 @@ QVSupportViewControllerBase {
         font.pixelSize: 14
         font.bold: true
         color: theme.card
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: text
-        Accessible.ignored: !visible || overlayHidden
+        // Read through the alert below: a label keeps the role of a label.
+        Accessible.ignored: true
         background: Item {
             Rectangle {
                 anchors.fill: parent
@@ -117,5 +119,13 @@ QVSupportViewControllerBase {
                 color: theme.error
             }
         }
+    }
+    // The form's message, read out when it shows, over the field it is about.
+    Item {
+        anchors.fill: error
+        visible: error.visible
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: error.text
+        Accessible.ignored: !visible || overlayHidden
     }
 }

@@ -22,7 +22,7 @@ QVTransactionCollectionViewCellBase {
     Accessible.role: Accessible.ListItem
     Accessible.name: qsTr("%1, %2, credited %3", "a credit: the offer, the amount, when").arg(offerName)
                          .arg(spokenAmount(payout)).arg(timestamp)
-    Accessible.ignored: overlayHidden
+    Accessible.ignored: !visible || overlayHidden
 
     Rectangle {
         id: card

@@ -36,7 +36,7 @@ QVUnableToAssistBase {
             id: texts
             Accessible.role: Accessible.StaticText
             Accessible.name: heading.text + " " + detail.text
-            Accessible.ignored: overlayHidden
+            Accessible.ignored: !visible || overlayHidden
             anchors.left: icon.right
             anchors.right: parent.right
             anchors.leftMargin: 12

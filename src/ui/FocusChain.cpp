@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 QuorvaMedia
+// SPDX-License-Identifier: Apache-2.0
+
+#include "FocusChain.h"
+
+#include <QtCore/QPointer>
+#include <QtQuick/QQuickWindow>
+
+namespace quorva::detail {
+
+bool isDescendant(const QQuickItem *item, const QQuickItem *ancestor)
+{
+    for (; item; item = item->parentItem()) {
+        if (item == ancestor)
+            return true;
+    }
+    return false;
+}
+
+QQuickItem *firstFocusableIn(QQuickItem *root)
+{
+    QQuickItem *next = root;
+    for (int i = 0; i < 1000; ++i) {
+        next = next->nextItemInFocusChain(true);
+        if (!next || next == root)
+            return nullptr;
+        if (isDescendant(next, root))
+            return next->isVisible() && next->isEnabled() ? next : nullptr;
+    }
+    return nullptr;
+}
+
+void focusFirstWhenBuilt(QQuickItem *root, int attemptsLeft)
+{
+    if (!root)
+        return;
+    if (QQuickItem *first = firstFocusableIn(root)) {
+        first->forceActiveFocus(Qt::TabFocusReason);
+        return;
+    }
+    if (attemptsLeft == 0 || !root->window())
+        return;
+    QPointer<QQuickItem> guard(root);
+    QObject::connect(root->window(), &QQuickWindow::afterAnimating, root, [guard, attemptsLeft] {
+        if (guard)
+            focusFirstWhenBuilt(guard, attemptsLeft - 1);
+    }, Qt::SingleShotConnection);
+    root->window()->update();
+}
+} // namespace quorva::detail

@@ -7,6 +7,14 @@
         <source>Clear %1</source>
         <translation>مسح %1</translation>
     </message>
+    <message>
+        <source>Required, invalid: %1</source>
+        <translation>مطلوب، غير صالح: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>مطلوب</translation>
+    </message>
 </context>
 <context>
     <name>QVAlert</name>
@@ -88,8 +96,20 @@
         <translation>أخبرنا بما حدث</translation>
     </message>
     <message>
-        <source>Your message</source>
-        <translation>رسالتك</translation>
+        <source>Required, invalid: %1</source>
+        <translation>مطلوب، غير صالح: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>مطلوب</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>الرسالة</translation>
+    </message>
+    <message>
+        <source>%1 characters left</source>
+        <translation>متبقٍ %1 حرفًا</translation>
     </message>
 </context>
 <context>
@@ -102,12 +122,31 @@
         <source>Email address</source>
         <translation>البريد الإلكتروني</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>البريد الإلكتروني</translation>
+    </message>
 </context>
 <context>
     <name>QVEnterOfferTitleView</name>
     <message>
         <source>Name of the offer</source>
         <translation>اسم العرض</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>العرض</translation>
+    </message>
+</context>
+<context>
+    <name>QVFAQViewController</name>
+    <message>
+        <source>Frequently asked questions</source>
+        <translation>الأسئلة الشائعة</translation>
     </message>
 </context>
 <context>
@@ -175,6 +214,10 @@
         <source>Offers you complete show up here once they are credited.</source>
         <translation>تظهر العروض التي تكملها هنا بعد إضافة مكافآتها.</translation>
     </message>
+    <message>
+        <source>Credited offers</source>
+        <translation>العروض المضافة</translation>
+    </message>
 </context>
 <context>
     <name>QVOfferDateCompletedView</name>
@@ -183,8 +226,12 @@
         <translation>تاريخ الإكمال</translation>
     </message>
     <message>
-        <source>Completion date: %1</source>
-        <translation>تاريخ الإكمال: %1</translation>
+        <source>Required, invalid: %1</source>
+        <translation>مطلوب، غير صالح: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>مطلوب</translation>
     </message>
 </context>
 <context>
@@ -205,8 +252,13 @@
 <context>
     <name>QVOfferUICollectionViewCell</name>
     <message>
-        <source>Earn %1: %2</source>
-        <translation>اربح %1: %2</translation>
+        <source>%1, %2, %3</source>
+        <comment>an offer: its name, its task, its payout</comment>
+        <translation>%1، %2، %3</translation>
+    </message>
+    <message>
+        <source>Earn %1</source>
+        <translation>اكسب %1</translation>
     </message>
 </context>
 <context>
@@ -275,6 +327,29 @@
         <source>Corvel Support</source>
         <translation>دعم Corvel</translation>
     </message>
+    <message>
+        <source>Offers</source>
+        <translation>العروض</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n offers</source>
+        <translation>
+            <numerusform>لا عروض</numerusform>
+            <numerusform>عرض واحد</numerusform>
+            <numerusform>عرضان</numerusform>
+            <numerusform>%n عروض</numerusform>
+            <numerusform>%n عرضًا</numerusform>
+            <numerusform>%n عرض</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>minus %1 %2</source>
+        <translation>ناقص %1 %2</translation>
+    </message>
 </context>
 <context>
     <name>QVQuestionCollectionViewCell</name>
@@ -319,12 +394,21 @@
         <source>Contact Us</source>
         <translation>اتصل بنا</translation>
     </message>
+    <message>
+        <source>Support sections</source>
+        <translation>أقسام الدعم</translation>
+    </message>
 </context>
 <context>
     <name>QVTransactionCollectionViewCell</name>
     <message>
         <source>Credited</source>
         <translation>تمت الإضافة</translation>
+    </message>
+    <message>
+        <source>%1, %2, credited %3</source>
+        <comment>a credit: the offer, the amount, when</comment>
+        <translation>%1، %2، أضيف في %3</translation>
     </message>
 </context>
 <context>

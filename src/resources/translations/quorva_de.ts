@@ -7,6 +7,14 @@
         <source>Clear %1</source>
         <translation>%1 löschen</translation>
     </message>
+    <message>
+        <source>Required, invalid: %1</source>
+        <translation>Pflichtfeld, ungültig: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Pflichtfeld</translation>
+    </message>
 </context>
 <context>
     <name>QVAlert</name>
@@ -88,8 +96,20 @@
         <translation>Erzähl uns, was passiert ist</translation>
     </message>
     <message>
-        <source>Your message</source>
-        <translation>Deine Nachricht</translation>
+        <source>Required, invalid: %1</source>
+        <translation>Pflichtfeld, ungültig: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Pflichtfeld</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Nachricht</translation>
+    </message>
+    <message>
+        <source>%1 characters left</source>
+        <translation>Noch %1 Zeichen</translation>
     </message>
 </context>
 <context>
@@ -102,12 +122,31 @@
         <source>Email address</source>
         <translation>E-Mail-Adresse</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-Mail</translation>
+    </message>
 </context>
 <context>
     <name>QVEnterOfferTitleView</name>
     <message>
         <source>Name of the offer</source>
         <translation>Name des Angebots</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Angebot</translation>
+    </message>
+</context>
+<context>
+    <name>QVFAQViewController</name>
+    <message>
+        <source>Frequently asked questions</source>
+        <translation>Häufige Fragen</translation>
     </message>
 </context>
 <context>
@@ -175,6 +214,10 @@
         <source>Offers you complete show up here once they are credited.</source>
         <translation>Abgeschlossene Angebote erscheinen hier, sobald sie gutgeschrieben sind.</translation>
     </message>
+    <message>
+        <source>Credited offers</source>
+        <translation>Gutgeschriebene Angebote</translation>
+    </message>
 </context>
 <context>
     <name>QVOfferDateCompletedView</name>
@@ -183,8 +226,12 @@
         <translation>Abgeschlossen am</translation>
     </message>
     <message>
-        <source>Completion date: %1</source>
-        <translation>Abschlussdatum: %1</translation>
+        <source>Required, invalid: %1</source>
+        <translation>Pflichtfeld, ungültig: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Pflichtfeld</translation>
     </message>
 </context>
 <context>
@@ -205,8 +252,13 @@
 <context>
     <name>QVOfferUICollectionViewCell</name>
     <message>
-        <source>Earn %1: %2</source>
-        <translation>%1 verdienen: %2</translation>
+        <source>%1, %2, %3</source>
+        <comment>an offer: its name, its task, its payout</comment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>Earn %1</source>
+        <translation>%1 verdienen</translation>
     </message>
 </context>
 <context>
@@ -275,6 +327,25 @@
         <source>Corvel Support</source>
         <translation>Corvel-Support</translation>
     </message>
+    <message>
+        <source>Offers</source>
+        <translation>Angebote</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n offers</source>
+        <translation>
+            <numerusform>%n Angebot</numerusform>
+            <numerusform>%n Angebote</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>minus %1 %2</source>
+        <translation>minus %1 %2</translation>
+    </message>
 </context>
 <context>
     <name>QVQuestionCollectionViewCell</name>
@@ -319,12 +390,21 @@
         <source>Contact Us</source>
         <translation>Kontakt</translation>
     </message>
+    <message>
+        <source>Support sections</source>
+        <translation>Support-Bereiche</translation>
+    </message>
 </context>
 <context>
     <name>QVTransactionCollectionViewCell</name>
     <message>
         <source>Credited</source>
         <translation>Gutgeschrieben</translation>
+    </message>
+    <message>
+        <source>%1, %2, credited %3</source>
+        <comment>a credit: the offer, the amount, when</comment>
+        <translation>%1, %2, gutgeschrieben am %3</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,14 @@
         <source>Clear %1</source>
         <translation>Borrar %1</translation>
     </message>
+    <message>
+        <source>Required, invalid: %1</source>
+        <translation>Obligatorio, no válido: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obligatorio</translation>
+    </message>
 </context>
 <context>
     <name>QVAlert</name>
@@ -88,8 +96,20 @@
         <translation>Cuéntanos qué pasó</translation>
     </message>
     <message>
-        <source>Your message</source>
-        <translation>Tu mensaje</translation>
+        <source>Required, invalid: %1</source>
+        <translation>Obligatorio, no válido: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obligatorio</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensaje</translation>
+    </message>
+    <message>
+        <source>%1 characters left</source>
+        <translation>Quedan %1 caracteres</translation>
     </message>
 </context>
 <context>
@@ -102,12 +122,31 @@
         <source>Email address</source>
         <translation>Correo electrónico</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>Correo electrónico</translation>
+    </message>
 </context>
 <context>
     <name>QVEnterOfferTitleView</name>
     <message>
         <source>Name of the offer</source>
         <translation>Nombre de la oferta</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Oferta</translation>
+    </message>
+</context>
+<context>
+    <name>QVFAQViewController</name>
+    <message>
+        <source>Frequently asked questions</source>
+        <translation>Preguntas frecuentes</translation>
     </message>
 </context>
 <context>
@@ -175,6 +214,10 @@
         <source>Offers you complete show up here once they are credited.</source>
         <translation>Las ofertas que completes aparecerán aquí cuando se acrediten.</translation>
     </message>
+    <message>
+        <source>Credited offers</source>
+        <translation>Ofertas acreditadas</translation>
+    </message>
 </context>
 <context>
     <name>QVOfferDateCompletedView</name>
@@ -183,8 +226,12 @@
         <translation>Completada el</translation>
     </message>
     <message>
-        <source>Completion date: %1</source>
-        <translation>Fecha de finalización: %1</translation>
+        <source>Required, invalid: %1</source>
+        <translation>Obligatorio, no válido: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obligatorio</translation>
     </message>
 </context>
 <context>
@@ -205,8 +252,13 @@
 <context>
     <name>QVOfferUICollectionViewCell</name>
     <message>
-        <source>Earn %1: %2</source>
-        <translation>Gana %1: %2</translation>
+        <source>%1, %2, %3</source>
+        <comment>an offer: its name, its task, its payout</comment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>Earn %1</source>
+        <translation>Gana %1</translation>
     </message>
 </context>
 <context>
@@ -275,6 +327,25 @@
         <source>Corvel Support</source>
         <translation>Soporte Corvel</translation>
     </message>
+    <message>
+        <source>Offers</source>
+        <translation>Ofertas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n offers</source>
+        <translation>
+            <numerusform>%n oferta</numerusform>
+            <numerusform>%n ofertas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>minus %1 %2</source>
+        <translation>menos %1 %2</translation>
+    </message>
 </context>
 <context>
     <name>QVQuestionCollectionViewCell</name>
@@ -319,12 +390,21 @@
         <source>Contact Us</source>
         <translation>Contacto</translation>
     </message>
+    <message>
+        <source>Support sections</source>
+        <translation>Secciones de ayuda</translation>
+    </message>
 </context>
 <context>
     <name>QVTransactionCollectionViewCell</name>
     <message>
         <source>Credited</source>
         <translation>Acreditado</translation>
+    </message>
+    <message>
+        <source>%1, %2, credited %3</source>
+        <comment>a credit: the offer, the amount, when</comment>
+        <translation>%1, %2, acreditado el %3</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,14 @@
         <source>Clear %1</source>
         <translation>Effacer %1</translation>
     </message>
+    <message>
+        <source>Required, invalid: %1</source>
+        <translation>Obligatoire, non valide : %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obligatoire</translation>
+    </message>
 </context>
 <context>
     <name>QVAlert</name>
@@ -88,8 +96,20 @@
         <translation>Dites-nous ce qui s&apos;est passé</translation>
     </message>
     <message>
-        <source>Your message</source>
-        <translation>Votre message</translation>
+        <source>Required, invalid: %1</source>
+        <translation>Obligatoire, non valide : %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obligatoire</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>%1 characters left</source>
+        <translation>%1 caractères restants</translation>
     </message>
 </context>
 <context>
@@ -102,12 +122,31 @@
         <source>Email address</source>
         <translation>Adresse e-mail</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-mail</translation>
+    </message>
 </context>
 <context>
     <name>QVEnterOfferTitleView</name>
     <message>
         <source>Name of the offer</source>
         <translation>Nom de l&apos;offre</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Offre</translation>
+    </message>
+</context>
+<context>
+    <name>QVFAQViewController</name>
+    <message>
+        <source>Frequently asked questions</source>
+        <translation>Questions fréquentes</translation>
     </message>
 </context>
 <context>
@@ -175,6 +214,10 @@
         <source>Offers you complete show up here once they are credited.</source>
         <translation>Les offres terminées apparaissent ici une fois créditées.</translation>
     </message>
+    <message>
+        <source>Credited offers</source>
+        <translation>Offres créditées</translation>
+    </message>
 </context>
 <context>
     <name>QVOfferDateCompletedView</name>
@@ -183,8 +226,12 @@
         <translation>Terminée le</translation>
     </message>
     <message>
-        <source>Completion date: %1</source>
-        <translation>Date de fin : %1</translation>
+        <source>Required, invalid: %1</source>
+        <translation>Obligatoire, non valide : %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obligatoire</translation>
     </message>
 </context>
 <context>
@@ -205,8 +252,13 @@
 <context>
     <name>QVOfferUICollectionViewCell</name>
     <message>
-        <source>Earn %1: %2</source>
-        <translation>Gagnez %1 : %2</translation>
+        <source>%1, %2, %3</source>
+        <comment>an offer: its name, its task, its payout</comment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>Earn %1</source>
+        <translation>Gagner %1</translation>
     </message>
 </context>
 <context>
@@ -275,6 +327,25 @@
         <source>Corvel Support</source>
         <translation>Assistance Corvel</translation>
     </message>
+    <message>
+        <source>Offers</source>
+        <translation>Offres</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n offers</source>
+        <translation>
+            <numerusform>%n offre</numerusform>
+            <numerusform>%n offres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>minus %1 %2</source>
+        <translation>moins %1 %2</translation>
+    </message>
 </context>
 <context>
     <name>QVQuestionCollectionViewCell</name>
@@ -319,12 +390,21 @@
         <source>Contact Us</source>
         <translation>Contact</translation>
     </message>
+    <message>
+        <source>Support sections</source>
+        <translation>Rubriques d'aide</translation>
+    </message>
 </context>
 <context>
     <name>QVTransactionCollectionViewCell</name>
     <message>
         <source>Credited</source>
         <translation>Crédité</translation>
+    </message>
+    <message>
+        <source>%1, %2, credited %3</source>
+        <comment>a credit: the offer, the amount, when</comment>
+        <translation>%1, %2, crédité le %3</translation>
     </message>
 </context>
 <context>

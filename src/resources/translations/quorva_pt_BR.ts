@@ -7,6 +7,14 @@
         <source>Clear %1</source>
         <translation>Limpar %1</translation>
     </message>
+    <message>
+        <source>Required, invalid: %1</source>
+        <translation>Obrigatório, inválido: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obrigatório</translation>
+    </message>
 </context>
 <context>
     <name>QVAlert</name>
@@ -88,8 +96,20 @@
         <translation>Conte o que aconteceu</translation>
     </message>
     <message>
-        <source>Your message</source>
-        <translation>Sua mensagem</translation>
+        <source>Required, invalid: %1</source>
+        <translation>Obrigatório, inválido: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obrigatório</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Mensagem</translation>
+    </message>
+    <message>
+        <source>%1 characters left</source>
+        <translation>Restam %1 caracteres</translation>
     </message>
 </context>
 <context>
@@ -102,12 +122,31 @@
         <source>Email address</source>
         <translation>E-mail</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-mail</translation>
+    </message>
 </context>
 <context>
     <name>QVEnterOfferTitleView</name>
     <message>
         <source>Name of the offer</source>
         <translation>Nome da oferta</translation>
+    </message>
+    <message>
+        <source>Offer</source>
+        <translation>Oferta</translation>
+    </message>
+</context>
+<context>
+    <name>QVFAQViewController</name>
+    <message>
+        <source>Frequently asked questions</source>
+        <translation>Perguntas frequentes</translation>
     </message>
 </context>
 <context>
@@ -175,6 +214,10 @@
         <source>Offers you complete show up here once they are credited.</source>
         <translation>As ofertas concluídas aparecem aqui depois de creditadas.</translation>
     </message>
+    <message>
+        <source>Credited offers</source>
+        <translation>Ofertas creditadas</translation>
+    </message>
 </context>
 <context>
     <name>QVOfferDateCompletedView</name>
@@ -183,8 +226,12 @@
         <translation>Concluída em</translation>
     </message>
     <message>
-        <source>Completion date: %1</source>
-        <translation>Data de conclusão: %1</translation>
+        <source>Required, invalid: %1</source>
+        <translation>Obrigatório, inválido: %1</translation>
+    </message>
+    <message>
+        <source>Required</source>
+        <translation>Obrigatório</translation>
     </message>
 </context>
 <context>
@@ -205,8 +252,13 @@
 <context>
     <name>QVOfferUICollectionViewCell</name>
     <message>
-        <source>Earn %1: %2</source>
-        <translation>Ganhe %1: %2</translation>
+        <source>%1, %2, %3</source>
+        <comment>an offer: its name, its task, its payout</comment>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>Earn %1</source>
+        <translation>Ganhe %1</translation>
     </message>
 </context>
 <context>
@@ -275,6 +327,25 @@
         <source>Corvel Support</source>
         <translation>Suporte Corvel</translation>
     </message>
+    <message>
+        <source>Offers</source>
+        <translation>Ofertas</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n offers</source>
+        <translation>
+            <numerusform>%n oferta</numerusform>
+            <numerusform>%n ofertas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>minus %1 %2</source>
+        <translation>menos %1 %2</translation>
+    </message>
 </context>
 <context>
     <name>QVQuestionCollectionViewCell</name>
@@ -319,12 +390,21 @@
         <source>Contact Us</source>
         <translation>Contato</translation>
     </message>
+    <message>
+        <source>Support sections</source>
+        <translation>Seções de suporte</translation>
+    </message>
 </context>
 <context>
     <name>QVTransactionCollectionViewCell</name>
     <message>
         <source>Credited</source>
         <translation>Creditado</translation>
+    </message>
+    <message>
+        <source>%1, %2, credited %3</source>
+        <comment>a credit: the offer, the amount, when</comment>
+        <translation>%1, %2, creditado em %3</translation>
     </message>
 </context>
 <context>

@@ -54,6 +54,21 @@ void ScreenshotTour::renderScreens(Camera &camera)
         camera.shoot(*scene, tablet ? QStringLiteral("tablet-wall") : QStringLiteral("phone-wall"), [&] {
             return !scene->wall->offersList().isEmpty() && picturesShown(scene->wall);
         });
+        if (!tablet) {
+            // Reached by the keyboard: an offer has the focus and shows its ring. Keys go to the
+            // active window, which a later scene's window is not by itself on a bare X server.
+            // The list takes the focus once its first offers are on screen.
+            scene->window->requestActivate();
+            if (!spinUntil([&] { return scene->window->isActive() && scene->wall->isAncestorOf(scene->window->activeFocusItem()); }))
+                camera.fail(QStringLiteral("the wall never took the keyboard (window active: %1, focus on %2)")
+                                .arg(scene->window->isActive())
+                                .arg(scene->window->activeFocusItem() ? QString::fromLatin1(scene->window->activeFocusItem()->metaObject()->className()) : QStringLiteral("nothing")));
+            press(scene->window.get(), Qt::Key_Down);
+            camera.shoot(*scene, QStringLiteral("phone-wall-keyboard"), [&] {
+                return scene->wall->focusedOffer() >= 0
+                    && qobject_cast<QVOfferUICollectionViewCell *>(scene->window->activeFocusItem());
+            });
+        }
         scene->wall->onFilterPressed();
         if (tablet) {
             camera.shoot(*scene, QStringLiteral("tablet-filter-popover"),

@@ -130,18 +130,26 @@ void tap(QQuickWindow *window, QQuickItem *item)
     }
 }
 
+static void sendKey(QQuickWindow *window, int key, const QString &text)
+{
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, text);
+    QGuiApplication::sendEvent(window, &down);
+    QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, text);
+    QGuiApplication::sendEvent(window, &up);
+}
+
 void type(QQuickWindow *window, QQuickItem *input, const QString &text)
 {
     if (!input)
         return;
     input->forceActiveFocus(Qt::MouseFocusReason);
-    for (const QChar c : text) {
-        const int key = c == u'\n' ? int(Qt::Key_Return) : int(c.toUpper().unicode());
-        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(c));
-        QGuiApplication::sendEvent(window, &press);
-        QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, QString(c));
-        QGuiApplication::sendEvent(window, &release);
-    }
+    for (const QChar c : text)
+        sendKey(window, c == u'\n' ? int(Qt::Key_Return) : int(c.toUpper().unicode()), QString(c));
+}
+
+void press(QQuickWindow *window, Qt::Key key)
+{
+    sendKey(window, key, QString());
 }
 
 Camera::Camera(QString directory) : m_directory(std::move(directory))

@@ -64,6 +64,8 @@ bool popupOpened(QQuickItem *root, const char *objectName);
 void tap(QQuickWindow *window, QQuickItem *item);
 // Types text into input as key presses.
 void type(QQuickWindow *window, QQuickItem *input, const QString &text);
+// Presses and releases one key, as a keyboard would, to whatever has the focus.
+void press(QQuickWindow *window, Qt::Key key);
 
 // Saves screens once they show what they should; counts the ones that never did.
 class Camera

@@ -100,10 +100,12 @@ private slots:
         QVUnableToAssist *notice = form->unableToAssistView();
         QVERIFY(inForm(form, notice));
         QCOMPARE(notice->y(), answer->y() + answer->height());
-        // The send button's height, or taller when its texts need it (glyph widths differ
-        // between platforms), once they have been laid out at the form's final width (a
-        // first launch may lay them out at a passing width first).
-        QTRY_COMPARE(notice->height(), std::max(form->sendButtonView()->height(), notice->implicitHeight()));
+        // The send piece's height, which grows to what the notice's texts need (glyph widths
+        // differ between platforms), once they are laid out at the form's final width (a
+        // first launch may lay them out at a passing width first): the form ends at the
+        // same line whichever answer was given.
+        QTRY_COMPARE(notice->height(), std::max(notice->implicitHeight(), 76.0));
+        QCOMPARE(form->sendButtonView()->height(), notice->height());
         QVERIFY(!form->sendButtonView()->isVisible());
         QVERIFY(!inForm(form, form->offerDateCompletedView()) && !inForm(form, form->enterCommentView()));
     }
@@ -173,6 +175,18 @@ private slots:
         QCOMPARE(m_service.tickets().size(), 0);
         // The form keeps what it shows below the strip.
         QCOMPARE(form->topInset(), strip->height());
+        // The keyboard is in the marked field, and its whole piece, label too, is scrolled
+        // into view below the strip.
+        const QMap<QString, QQuickItem *> pieces{
+            {"name", form->enterInfoView()}, {"email", form->enterInfoView()}, {"offer", form->enterOfferTitleView()},
+            {"date", form->offerDateCompletedView()}, {"comment", form->enterCommentView()}};
+        QQuickItem *piece = pieces.value(marked);
+        QVERIFY(piece);
+        QTRY_VERIFY(piece->isAncestorOf(form->window()->activeFocusItem()));
+        const auto contentY = [form] { return form->scrollView()->property("contentY").toReal(); };
+        QTRY_VERIFY2(piece->y() >= contentY() + form->topInset() - 0.5
+                         && piece->y() + piece->height() <= contentY() + form->scrollView()->height() + 0.5,
+                     qPrintable(QStringLiteral("piece at %1, shown from %2").arg(piece->y()).arg(contentY() + form->topInset())));
     }
 
     void emailPattern_data()

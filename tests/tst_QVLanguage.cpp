@@ -281,6 +281,9 @@ private slots:
         for (QQuickItem *choice : {subject->notCreditBtn(), time->noButton(), time->yesButton(), subject->reportBtn()}) {
             supportHarness.clickInForm(form, choice);
             VERIFY_TEXTS_READ_WELL(supportHarness);
+            // The notice in the send piece's place, at its height, however its texts wrap.
+            if (choice == time->noButton())
+                QTRY_COMPARE(form->unableToAssistView()->height(), form->sendButtonView()->height());
         }
         // Invalid, with the error strip; the date picker; sent, and its failure alert.
         supportHarness.clickInForm(form, subject->notCreditBtn());

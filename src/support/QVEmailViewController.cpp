@@ -92,6 +92,7 @@ void QVEmailViewController::viewDidLoad()
                                      d_func()->m_unableToAssistView, d_func()->m_sendButtonView};
     if (pieces.contains(nullptr) || !d_func()->m_scrollView)
         return; // the interface files are broken; there is no form to show
+    d_func()->m_sendPieceHeight = d_func()->m_sendButtonView->height();
 
     auto *scrollContent = d_func()->m_scrollView->property("contentItem").value<QQuickItem *>();
     d_func()->m_contentView = new QQuickItem(scrollContent);
@@ -206,7 +207,7 @@ void QVEmailViewController::setUIState(int state)
         removePiece(d_func()->m_enterCommentView);
         addPiece(d_func()->m_unableToAssistView);
         // The notice takes the send button's place and height.
-        place(d_func()->m_unableToAssistView, d_func()->m_offerTimeCompleted, d_func()->m_sendButtonView->height());
+        place(d_func()->m_unableToAssistView, d_func()->m_offerTimeCompleted);
         fitUnableToAssist();
         d_func()->m_sendButtonView->setVisible(false);
         break;
@@ -228,11 +229,20 @@ void QVEmailViewController::setUIState(int state)
     updateContentSize();
 }
 
-// The notice takes the send button's place and at least its height.
+// The notice takes the send button's place at the same height: the send piece grows to what
+// the notice's texts need in the current language, so the form ends at the same line either way.
 void QVEmailViewController::fitUnableToAssist()
 {
-    if (d_func()->m_unableToAssistView && d_func()->m_unableToAssistView->parentItem() == d_func()->m_contentView)
-        d_func()->m_unableToAssistView->setHeight(std::max(d_func()->m_sendButtonView->height(), d_func()->m_unableToAssistView->implicitHeight()));
+    QQuickItem *notice = d_func()->m_unableToAssistView;
+    QQuickItem *send = d_func()->m_sendButtonView;
+    if (!notice || !send)
+        return;
+    if (width() <= 0)
+        return; // texts wrapped at no width would ask for any height
+    notice->setWidth(width());
+    const qreal height = std::max(d_func()->m_sendPieceHeight, notice->implicitHeight());
+    notice->setHeight(height);
+    send->setHeight(height);
 }
 
 void QVEmailViewController::stackInReadingOrder()
@@ -265,6 +275,7 @@ void QVEmailViewController::geometryChange(const QRectF &newGeometry, const QRec
     d_func()->m_contentView->setWidth(newGeometry.width());
     for (QQuickItem *piece : d_func()->m_contentView->childItems())
         piece->setWidth(newGeometry.width());
+    fitUnableToAssist();
     updateContentSize();
 }
 

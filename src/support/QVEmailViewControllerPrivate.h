@@ -24,6 +24,7 @@ public:
     QVEnterCommentView *m_enterCommentView = nullptr;
     QVSupportSendButtonView *m_sendButtonView = nullptr;
     QVUnableToAssist *m_unableToAssistView = nullptr;
+    qreal m_sendPieceHeight = 0; // as designed; the notice may make it taller
     qreal m_lastContentOffsetY = 0;
     int m_activeUISate = 0;
     QString m_selectedSubjectId;

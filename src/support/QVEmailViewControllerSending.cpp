@@ -72,12 +72,13 @@ bool QVEmailViewController::validateFields()
     }
     if (d_func()->m_delegate)
         d_func()->m_delegate->invalidInputMessage(problem.message);
-    scrollRectToVisible(QRectF(piece->position(), piece->size()));
-    // The keyboard goes to the field in error, which says what is wrong with it.
+    // The keyboard goes to the field in error, which says what is wrong with it; then the
+    // whole piece, its label too, is scrolled into view.
     if (input) {
         input->setProperty("errorText", problem.message);
         input->forceActiveFocus(Qt::OtherFocusReason);
     }
+    scrollRectToVisible(QRectF(piece->position(), piece->size()));
     return false;
 }
 

@@ -415,20 +415,22 @@ void QVOffersViewController::watchForFirstOffersOnScreen()
     // The first swap may end a frame that was under way before the offers arrived; the
     // second one shows them. Swaps come from the render thread as queued calls, so
     // several may already wait when the first runs, and the disconnect below does not
-    // take them back: the flag, not the connection, makes the signal come once.
+    // take them back: the flag, not the connection, makes the signal come once. A wall at
+    // rest draws no more frames by itself, so the second one is asked for.
     auto connection = std::make_shared<QMetaObject::Connection>();
     *connection = connect(host, &QQuickWindow::frameSwapped, this, [this, connection] {
-        if (d_func()->m_offersShown || ++d_func()->m_framesSinceFirstOffers < 2)
+        if (d_func()->m_offersShown)
             return;
+        if (++d_func()->m_framesSinceFirstOffers < 2) {
+            if (window())
+                window()->update();
+            return;
+        }
         disconnect(*connection);
         d_func()->m_offersShownPending = false;
         d_func()->m_offersShown = true;
         qCDebug(lcQuorvaDiagnostics, "first offers on screen");
-        // A window that gave the focus to nothing else gives it to the list, so a screen
-        // reader starts there and the arrow keys work at once; no ring shows until they do.
-        if (window() && d_func()->m_collectionView
-            && (!window()->activeFocusItem() || window()->activeFocusItem() == window()->contentItem()))
-            d_func()->m_collectionView->forceActiveFocus(Qt::OtherFocusReason);
+        takeFirstFocus();
         emit offersShown();
     }, Qt::QueuedConnection);
     host->update();

@@ -423,6 +423,7 @@ private:
     Q_DECL_HIDDEN void overlayDidClose();
     Q_DECL_HIDDEN void updateModality();
     Q_DECL_HIDDEN void focusOfferCell();
+    Q_DECL_HIDDEN void takeFirstFocus();
     Q_DECL_HIDDEN void putRowsInScreenOrder();
 
 

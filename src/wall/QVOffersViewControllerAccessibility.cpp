@@ -47,6 +47,19 @@ bool QVOffersViewController::isOverlayHidden() const
     return d_func()->m_overlayHidden;
 }
 
+// A window that gave the focus to nothing else gives it to the list once its first offers
+// show, so a screen reader starts there and the arrow keys work at once; no ring shows until
+// they are used.
+void QVOffersViewController::takeFirstFocus()
+{
+    QQuickWindow *host = window();
+    if (!host || !d_func()->m_collectionView)
+        return;
+    const QQuickItem *focused = host->activeFocusItem();
+    if (!focused || focused == host->contentItem())
+        d_func()->m_collectionView->forceActiveFocus(Qt::OtherFocusReason);
+}
+
 int QVOffersViewController::focusedOffer() const
 {
     return d_func()->m_focusedOffer;

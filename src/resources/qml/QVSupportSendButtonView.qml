@@ -15,11 +15,14 @@ QVSupportSendButtonViewBase {
     Button {
         id: send
         objectName: "sendBtn"
-        anchors.fill: parent
+        // The button keeps its size when the piece grows to the notice's height.
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
         anchors.leftMargin: 12
         anchors.rightMargin: 12
         anchors.topMargin: 10
-        anchors.bottomMargin: 14
+        height: 52
         text: qsTr("Send")
         Accessible.name: qsTr("Send the message")
         Accessible.ignored: !visible || overlayHidden

@@ -447,8 +447,11 @@ void QVOffersViewController::reloadData()
 
 void QVOffersViewController::updatePolish()
 {
+    // Any layout pass may decide the label, also one after a failed page: then the
+    // wall says it could not load, never that there are no offers.
     if (d_func()->m_noOffersLabel)
-        d_func()->m_noOffersLabel->setVisible(d_func()->m_offers->count() == 0 && !d_func()->m_loadingOffers);
+        d_func()->m_noOffersLabel->setVisible(d_func()->m_offers->count() == 0 && !d_func()->m_loadingOffers
+                                              && !d_func()->m_lastPageFailed);
     if (d_func()->m_rowsOrderPending)
         putRowsInScreenOrder();
 }

@@ -4,8 +4,9 @@
 // Time from creating the wall to the frame that shows its first offer cell, against a
 // bare request for the same page (QNetworkAccessManager GET and QJsonDocument::fromJson).
 // Warm walls are measured in this process; the first wall of a process (cold) and the
-// first bare request of a process are each measured in fresh child processes. Run under
-// a display (xvfb-run).
+// first bare request of a process are each measured in fresh child processes, against
+// the floor: a fresh process's first text on a rectangle. Fresh processes also open their
+// first overlay, timed frame by frame. Run under a display (xvfb-run).
 #include "BenchSupport.h"
 
 #include <QtCore/QJsonArray>
@@ -20,7 +21,9 @@
 #include <QtQml/QQmlComponent>
 #include <QtQml/QQmlEngine>
 
+#include <algorithm>
 #include <memory>
+#include <mutex>
 
 namespace {
 constexpr double kFrameMs = 16.7;
@@ -145,6 +148,51 @@ bool preloadReady()
     return ready;
 }
 
+// The longest time between frames while a wall of a fresh process opens its first
+// overlay (the filter panel or the support centre): from the press, through creating the
+// overlay's interface, to the end of its opening animation.
+double longestOverlayFrame(QQuickWindow &window, bool support)
+{
+    QVOffersViewController *wall = QVOffersViewController::newOffersWallForPublisherId(
+        QStringLiteral("1042"), QStringLiteral("7"), QStringLiteral("user-1"), nullptr);
+    wall->setParentItem(window.contentItem());
+    wall->setSize(window.size());
+    while (!hasFilledCell(wall))
+        bench::waitForFrame(&window);
+    QDeadlineTimer rest(300);
+    bench::waitUntil([&rest] { return rest.hasExpired(); });
+
+    // Swaps are timed on the render thread, where they happen.
+    std::mutex lock;
+    std::vector<qint64> swaps;
+    QElapsedTimer timer;
+    timer.start();
+    const auto connection = QObject::connect(
+        &window, &QQuickWindow::frameSwapped, &window,
+        [&] {
+            const std::lock_guard guard(lock);
+            swaps.push_back(timer.nsecsElapsed());
+        },
+        Qt::DirectConnection);
+    if (support)
+        wall->onSupportPressed();
+    else
+        wall->onFilterPressed();
+    QDeadlineTimer opening(800);
+    bench::waitUntil([&opening] { return opening.hasExpired(); });
+    QObject::disconnect(connection);
+    const std::lock_guard guard(lock);
+    qint64 previous = 0;
+    qint64 longest = 0;
+    for (qint64 swap : swaps) {
+        longest = std::max(longest, swap - previous);
+        if (qEnvironmentVariableIsSet("QUORVA_BENCH_PHASES"))
+            std::fprintf(stderr, "frame %.1f ms after the last\n", double(swap - previous) / 1e6);
+        previous = swap;
+    }
+    return swaps.empty() ? -1 : double(longest) / 1e6;
+}
+
 // A child process: one cold measurement, printed as milliseconds.
 int runChild(const QString &mode, const QString &base, const QString &caPath)
 {
@@ -156,6 +204,12 @@ int runChild(const QString &mode, const QString &base, const QString &caPath)
         if (mode == QLatin1String("--cold-preloaded-wall") && !preloadReady())
             return 1;
         ms = timeFirstCell(*window);
+    } else if (mode == QLatin1String("--first-filters") || mode == QLatin1String("--first-support")) {
+        QuorvaRestAPI::sharedInstance()->setServiceBaseAddress(base);
+        QuorvaRestAPI::sharedInstance()->addCaCertificates(QSslCertificate::fromPath(caPath));
+        ms = longestOverlayFrame(*window, mode == QLatin1String("--first-support"));
+        if (ms < 0)
+            return 1;
     } else if (mode == QLatin1String("--cold-content")) {
         ms = timeFirstContent(*window);
     } else {
@@ -232,6 +286,9 @@ int main(int argc, char **argv)
     const std::vector<double> coldBare = coldRuns(QStringLiteral("--cold-bare"), sandbox, caPath);
     const std::vector<double> coldContent = coldRuns(QStringLiteral("--cold-content"), sandbox, caPath);
 
+    const std::vector<double> firstFilters = coldRuns(QStringLiteral("--first-filters"), sandbox, caPath);
+    const std::vector<double> firstSupport = coldRuns(QStringLiteral("--first-support"), sandbox, caPath);
+
     const double bare = bench::median(bareMs);
     const double cold = bench::median(coldBare);
     std::printf("bare request (GET + fromJson): warm median %.2f ms over %d, cold median %.2f ms over %zu processes\n",
@@ -250,5 +307,17 @@ int main(int argc, char **argv)
                    QStringLiteral("1.2 x warm wall %1 ms, no latency").arg(warmWall, 0, 'f', 2));
     bench::verdict("first wall of a process, preloaded (median)", bench::median(coldPreloaded), 1.2 * floor, "ms",
                    QStringLiteral("1.2 x the floor %1 ms").arg(floor, 0, 'f', 2));
+    // Each process's longest frame while its first overlay opens; the worst of them counts.
+    const auto worst = [](const std::vector<double> &runs) {
+        return runs.empty() ? 0.0 : *std::max_element(runs.begin(), runs.end());
+    };
+    bench::verdict("first filter panel, longest frame (worst process)", worst(firstFilters), 50, "ms",
+                   QStringLiteral("50 ms; median %1 ms over %2 processes")
+                       .arg(bench::median(firstFilters), 0, 'f', 2)
+                       .arg(firstFilters.size()));
+    bench::verdict("first support centre, longest frame (worst process)", worst(firstSupport), 50, "ms",
+                   QStringLiteral("50 ms; median %1 ms over %2 processes")
+                       .arg(bench::median(firstSupport), 0, 'f', 2)
+                       .arg(firstSupport.size()));
     return 0;
 }

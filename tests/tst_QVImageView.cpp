@@ -8,10 +8,12 @@
 #include "QVImageView.h"
 #include "QVImageCache.h"
 
+#include <QtCore/QBuffer>
 #include <QtGui/QImage>
 #include <QtQuick/QQuickWindow>
 #include <QtTest/QtTest>
 
+#include <cstdlib>
 #include <map>
 
 using quorva::http::HttpRequest;
@@ -29,8 +31,12 @@ private slots:
         m_window.resize(200, 200);
         m_window.show();
         QVERIFY(QTest::qWaitForWindowExposed(&m_window));
-        const std::map<std::string, QByteArray> pictures{
-            {"/large", pngOf(Qt::green, 400)}, {"/red", pngOf(Qt::red)}, {"/blue", pngOf(Qt::blue)}};
+        const std::map<std::string, QByteArray> pictures{{"/large", pngOf(Qt::green, 400)},
+                                                         {"/red", pngOf(Qt::red)},
+                                                         {"/blue", pngOf(Qt::blue)},
+                                                         {"/jpeg", encoded(Qt::green, "JPEG")},
+                                                         {"/bmp", encoded(Qt::green, "BMP")},
+                                                         {"/gif", kGreenGif}};
         m_server.respond([pictures](const HttpRequest &request) {
             for (const auto &[folder, picture] : pictures) {
                 if (request.path.starts_with(folder))
@@ -165,7 +171,50 @@ private slots:
         QCOMPARE(m_server.requestCount(), 1);
     }
 
+    // Known formats are named by their first bytes, others are still probed; the
+    // address's suffix says nothing.
+    void everyFormatShows_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("PNG") << QStringLiteral("/red/12.jpg");
+        QTest::newRow("JPEG, scaled while decoded") << QStringLiteral("/jpeg/13.png");
+        QTest::newRow("GIF") << QStringLiteral("/gif/14");
+        QTest::newRow("BMP, probed") << QStringLiteral("/bmp/15.png");
+    }
+
+    void everyFormatShows()
+    {
+        QFETCH(QString, path);
+        std::unique_ptr<QVImageView> view(newView());
+        view->setImageWithURL(address(path));
+        QTRY_VERIFY(view->hasImage());
+        const QImage shown = view->image();
+        QCOMPARE(shown.size(), (view->size() * m_window.effectiveDevicePixelRatio()).toSize());
+        const QColor centre = shown.pixelColor(shown.width() / 2, shown.height() / 2);
+        const QColor expected = path.startsWith(QLatin1String("/red")) ? QColor(Qt::red) : QColor(Qt::green);
+        // JPEG is lossy: near the colour, not equal to it.
+        QVERIFY2(std::abs(centre.red() - expected.red()) < 8 && std::abs(centre.green() - expected.green()) < 8
+                     && std::abs(centre.blue() - expected.blue()) < 8,
+                 qPrintable(centre.name()));
+    }
+
 private:
+    // A 1 x 1 GIF whose only colour is pure green (no writer for GIF ships with Qt).
+    static constexpr char kGreenGifBytes[] = "GIF89a\x01\x00\x01\x00\x80\x00\x00\x00\xff\x00\x00\x00\x00"
+                                             ",\x00\x00\x00\x00\x01\x00\x01\x00\x00\x02\x02" "D\x01\x00;";
+    inline static const QByteArray kGreenGif = QByteArray(kGreenGifBytes, sizeof(kGreenGifBytes) - 1);
+
+    static QByteArray encoded(const QColor &color, const char *format)
+    {
+        QImage image(400, 400, QImage::Format_RGB32);
+        image.fill(color);
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, format);
+        return bytes;
+    }
+
     QUrl address(const QString &path) const
     {
         return QUrl(QStringLiteral("https://%1%2").arg(m_server.baseAddress(), path));

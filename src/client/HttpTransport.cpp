@@ -10,7 +10,6 @@
 #include <openssl/x509.h>
 #include <openssl/x509_vfy.h>
 
-#include <future>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -345,14 +344,15 @@ TransferResult KeptConnections::perform(const TransferRequest &request)
 
 int KeptConnections::run(void *handle)
 {
-    Transfer transfer{handle, {}};
-    std::future<int> done = transfer.code.get_future();
+    Transfer transfer{handle};
     {
         std::lock_guard lock(m_mutex);
         m_incoming.push_back(&transfer);
     }
     curl_multi_wakeup(m_multi);
-    return done.get();
+    std::unique_lock lock(m_mutex);
+    m_finished.wait(lock, [&transfer] { return transfer.finished; });
+    return transfer.code;
 }
 
 void KeptConnections::serve()
@@ -377,9 +377,15 @@ void KeptConnections::serve()
             const CURLcode code = message->data.result;
             curl_multi_remove_handle(m_multi, handle);
             if (const auto it = running.find(handle); it != running.end()) {
-                // The waiting worker owns the handle; after this it may free it.
-                it->second->code.set_value(int(code));
+                // The waiting worker owns the handle and the transfer; once it sees the
+                // transfer finished it may free both.
+                {
+                    std::lock_guard lock(m_mutex);
+                    it->second->code = int(code);
+                    it->second->finished = true;
+                }
                 running.erase(it);
+                m_finished.notify_all();
             }
         }
         curl_multi_poll(m_multi, nullptr, 0, 1000, nullptr);

@@ -11,7 +11,7 @@
 
 #include <atomic>
 #include <chrono>
-#include <future>
+#include <condition_variable>
 #include <mutex>
 #include <vector>
 #include <functional>
@@ -78,7 +78,8 @@ private:
     struct Transfer
     {
         void *handle;
-        std::promise<int> code;
+        int code = 0;
+        bool finished = false; // under m_mutex
     };
 
     explicit KeptConnections(int maximumConnections);
@@ -88,6 +89,7 @@ private:
 
     void *m_multi = nullptr;
     std::mutex m_mutex;
+    std::condition_variable m_finished; // a transfer has finished
     std::vector<Transfer *> m_incoming;
     std::atomic<bool> m_freshNext{false};
 };

@@ -60,13 +60,29 @@ QImage prepared(const QImage &picture, const QSize &pixels, qreal radius)
     return target;
 }
 
+// The format named by the first bytes. Unnamed, the reader asks every installed format
+// plugin in turn whether the bytes are its own, loading each one from disk on the first
+// picture of a process. Anything else is still probed.
+QByteArray formatOf(const QByteArray &bytes)
+{
+    if (bytes.startsWith("\x89PNG\r\n\x1a\n"))
+        return QByteArrayLiteral("png");
+    if (bytes.startsWith("\xff\xd8\xff"))
+        return QByteArrayLiteral("jpeg");
+    if (bytes.startsWith("GIF87a") || bytes.startsWith("GIF89a"))
+        return QByteArrayLiteral("gif");
+    if (bytes.size() >= 12 && bytes.startsWith("RIFF") && bytes.mid(8, 4) == "WEBP")
+        return QByteArrayLiteral("webp");
+    return {};
+}
+
 // Decodes straight to about the size shown when the format allows, so a large picture
 // never sits in memory at full size.
 QImage decode(const QByteArray &bytes, const QSize &pixels)
 {
     QBuffer buffer;
     buffer.setData(bytes);
-    QImageReader reader(&buffer);
+    QImageReader reader(&buffer, formatOf(bytes));
     const QSize natural = reader.size();
     if (!pixels.isEmpty() && natural.isValid() && natural.width() > pixels.width() && natural.height() > pixels.height()) {
         reader.setScaledSize(natural.scaled(pixels, Qt::KeepAspectRatioByExpanding));

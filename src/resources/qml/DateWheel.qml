@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Controls.Basic
 
 // One wheel of the date picker. The box speaks for the wheel to a screen reader, as a
 // value stepped up and down: this Qt ignores an accessible role set on a control.

@@ -71,6 +71,10 @@ void runSupportTour(Camera &camera, SandboxProcess &sandbox)
     if (!support)
         return;
     QVFAQViewController *faq = support->faqViewController();
+    if (!faq) {
+        camera.fail(QStringLiteral("the questions tab was not built"));
+        return;
+    }
     faq->didSelectItem(1);
     camera.shoot(*scene, QStringLiteral("phone-support-faq"), [&] {
         return findItem(faq, QStringLiteral("answerLabel")) != nullptr;

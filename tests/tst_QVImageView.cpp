@@ -10,6 +10,8 @@
 
 #include <QtCore/QBuffer>
 #include <QtGui/QImage>
+#include <QtQml/QQmlComponent>
+#include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickWindow>
 #include <QtTest/QtTest>
 
@@ -198,7 +200,71 @@ private slots:
                  qPrintable(centre.name()));
     }
 
+    // The module's icons are drawn from their SVG files in one colour, at the pixels
+    // shown, again whenever the colour or the size changes.
+    void iconTakesItsColourAndSize()
+    {
+        QQmlEngine engine;
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nimport QuorvaMedia\n"
+                          "QVIconImage { width: 24; height: 24; color: \"#ff0000\";"
+                          " source: \"qrc:/qt-project.org/imports/QuorvaMedia/icons/header-close.svg\" }",
+                          QUrl());
+        std::unique_ptr<QObject> object(component.create());
+        auto *icon = qobject_cast<QVImageView *>(object.get());
+        QVERIFY2(icon, qPrintable(component.errorString()));
+        icon->setParentItem(m_window.contentItem());
+        QTRY_VERIFY(icon->hasImage());
+        const qreal ratio = m_window.effectiveDevicePixelRatio();
+        QCOMPARE(icon->image().size(), QSize(24, 24) * ratio);
+        QCOMPARE(drawnColours(icon->image()), QSet<QRgb>{qRgb(255, 0, 0)});
+
+        icon->setProperty("color", QColor(Qt::blue));
+        QTRY_COMPARE(drawnColours(icon->image()), QSet<QRgb>{qRgb(0, 0, 255)});
+        icon->setSize({40, 40});
+        QTRY_COMPARE(icon->image().size(), QSize(40, 40) * ratio);
+
+        // Mirrored for a right-to-left language: the same drawing, left to right.
+        const qint64 closeKey = icon->image().cacheKey();
+        icon->setProperty("source", QUrl(QStringLiteral("qrc:/qt-project.org/imports/QuorvaMedia/icons/chevron.svg")));
+        QTRY_VERIFY(icon->image().cacheKey() != closeKey);
+        const QImage forward = icon->image();
+        icon->setProperty("mirror", true);
+        QTRY_VERIFY(icon->image().cacheKey() != forward.cacheKey());
+        QVERIFY(icon->image() != forward);
+        QVERIFY(alphaDistance(icon->image(), forward.mirrored(true, false)) <= 2);
+
+        QTest::ignoreMessage(QtWarningMsg, "icon not readable: qrc:/nowhere.svg");
+        icon->setProperty("source", QUrl(QStringLiteral("qrc:/nowhere.svg")));
+        QTRY_VERIFY(!icon->hasImage());
+    }
+
 private:
+    // The colours of the pixels drawn in full (an edge pixel, partly covered, is blended).
+    static QSet<QRgb> drawnColours(const QImage &image)
+    {
+        QSet<QRgb> colours;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor pixel = image.pixelColor(x, y);
+                if (pixel.alpha() == 255)
+                    colours.insert(pixel.rgb());
+            }
+        }
+        return colours;
+    }
+
+    // The largest difference in coverage between two pictures of one size.
+    static int alphaDistance(const QImage &a, const QImage &b)
+    {
+        int largest = 0;
+        for (int y = 0; y < a.height(); ++y) {
+            for (int x = 0; x < a.width(); ++x)
+                largest = std::max(largest, std::abs(qAlpha(a.pixel(x, y)) - qAlpha(b.pixel(x, y))));
+        }
+        return largest;
+    }
+
     // A 1 x 1 GIF whose only colour is pure green (no writer for GIF ships with Qt).
     static constexpr char kGreenGifBytes[] = "GIF89a\x01\x00\x01\x00\x80\x00\x00\x00\xff\x00\x00\x00\x00"
                                              ",\x00\x00\x00\x00\x01\x00\x01\x00\x00\x02\x02" "D\x01\x00;";

@@ -37,6 +37,21 @@ bool drawnIn(const QImage &frame, QPointF at, const QColor &colour)
 }
 } // namespace
 
+// The shared objects mapped into this process whose path holds the fragment.
+QStringList mappedLibraries(const QString &fragment)
+{
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    QStringList found;
+    if (!maps.open(QIODevice::ReadOnly))
+        return {QStringLiteral("(no /proc/self/maps)")};
+    for (const QByteArray &line : maps.readAll().split('\n')) {
+        const QString path = QString::fromLocal8Bit(line.mid(line.indexOf('/')));
+        if (line.contains('/') && path.contains(fragment) && !found.contains(path))
+            found.append(path);
+    }
+    return found;
+}
+
 class tst_QVOffersViewController : public ServiceSuite
 {
     Q_OBJECT
@@ -46,6 +61,21 @@ private slots:
     {
         startTest();
         QVImageCache::sharedImageCache()->clear();
+    }
+
+    // First of the suite, so nothing else has loaded them: the first screen with its
+    // pictures brings no image plugin (its pictures are PNG, its icons SVG drawn by the
+    // module), no control module, no effects and no overlay's models.
+    void firstScreenLoadsOnlyWhatItDraws()
+    {
+        WallHarness harness;
+        QVERIFY(harness.showFirstPage());
+        QTRY_VERIFY(harness.cells().first()->thumbImage()->hasImage());
+        for (const char *fragment : {"/imageformats/", "QuickControls2Impl", "quickcontrols2impl", "Qt5Compat",
+                                     "LabsQmlModels", "labsmodels"}) {
+            const QStringList loaded = mappedLibraries(QString::fromLatin1(fragment));
+            QVERIFY2(loaded.isEmpty(), qPrintable(loaded.join(QStringLiteral(", "))));
+        }
     }
 
     void loadsWhenFirstShownWithTargetingApplied()

@@ -60,7 +60,7 @@ QImage prepared(const QImage &picture, const QSize &pixels, qreal radius)
     return target;
 }
 
-// The format named by the first bytes. Unnamed, the reader asks every installed format
+// The format named by the first bytes. Otherwise the reader asks every installed format
 // plugin in turn whether the bytes are its own, loading each one from disk on the first
 // picture of a process. Anything else is still probed.
 QByteArray formatOf(const QByteArray &bytes)
@@ -82,7 +82,10 @@ QImage decode(const QByteArray &bytes, const QSize &pixels)
 {
     QBuffer buffer;
     buffer.setData(bytes);
-    QImageReader reader(&buffer, formatOf(bytes));
+    const QByteArray format = formatOf(bytes);
+    QImageReader reader(&buffer, format);
+    // Detection on, even a named format is offered to every plugin first.
+    reader.setAutoDetectImageFormat(format.isEmpty());
     const QSize natural = reader.size();
     if (!pixels.isEmpty() && natural.isValid() && natural.width() > pixels.width() && natural.height() > pixels.height()) {
         reader.setScaledSize(natural.scaled(pixels, Qt::KeepAspectRatioByExpanding));

@@ -22,6 +22,7 @@ set(QUORVA_UI_SOURCES
     ui/QVSpringCurve.h ui/QVSpringCurve.cpp
     ui/QVImageCache.cpp
     ui/QVImageView.cpp
+    ui/QVIconImage.h ui/QVIconImage.cpp
     ui/QVComponentFactory.h ui/QVComponentFactory.cpp
     ui/AssignIfChanged.h
     ui/QVAlertPresenter.h ui/QVAlertPresenter.cpp
@@ -47,6 +48,7 @@ set(QUORVA_QML_FILES
     resources/qml/QVBlurView.qml
     resources/qml/HeaderButton.qml
     resources/qml/FlatButton.qml
+    resources/qml/ScrollBarLine.qml
     resources/qml/FocusRing.qml
     resources/qml/Spinner.qml
     resources/qml/QVPopover.qml

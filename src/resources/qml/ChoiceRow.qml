@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.impl
+import QuorvaMedia
 import QtQuick.Controls.Basic
 
 // A row of a checkmark chooser: its text and the checkmark that marks the choice. The
@@ -70,7 +70,7 @@ RadioButton {
             fontSizeMode: Text.Fit
             minimumPixelSize: 10
         }
-        ColorImage {
+        QVIconImage {
             id: check
             objectName: row.checkmarkName
             anchors.right: parent.right
@@ -80,7 +80,6 @@ RadioButton {
             height: 22
             source: "icons/checkmark.svg"
             color: theme.accent
-            sourceSize: Qt.size(44, 44)
             visible: false
         }
     }

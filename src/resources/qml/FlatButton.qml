@@ -8,6 +8,9 @@ Rectangle {
     id: button
 
     property string text
+    property int textPixelSize: 16
+    // What the button sits on, for a focus ring that stands out from it.
+    property color surroundings: theme.background
     signal clicked()
 
     implicitWidth: Math.max(160, label.implicitWidth + 48)
@@ -24,13 +27,13 @@ Rectangle {
 
     FocusRing {
         cornerRadius: button.radius
-        surroundings: theme.background
+        surroundings: button.surroundings
     }
     Text {
         id: label
         anchors.centerIn: parent
         text: button.text
-        font.pixelSize: 16
+        font.pixelSize: button.textPixelSize
         font.bold: true
         color: theme.card
     }

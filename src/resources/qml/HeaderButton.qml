@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.impl
+import QuorvaMedia
 
-// A round icon button of the wall's header. Plain Qt Quick, so the wall's first screen
-// loads no control style.
+// A round icon button of the wall's header. Plain Qt Quick and the module's own icon
+// item, so the wall's first screen loads no control module and no image plugin.
 Item {
     id: button
 
@@ -37,12 +37,11 @@ Item {
         cornerRadius: button.width / 2
         surroundings: theme.headerStart
     }
-    ColorImage {
+    QVIconImage {
         anchors.centerIn: parent
         width: 24
         height: 24
         source: button.icon
-        sourceSize: Qt.size(48, 48)
         color: theme.headerText
     }
     MouseArea {

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -21,7 +20,7 @@ QVEnterCommentViewBase {
         anchors.topMargin: 0
         anchors.bottomMargin: 6
 
-        ColorImage {
+        QVIconImage {
             id: icon
             objectName: "commentIcon"
             anchors.left: parent.left
@@ -31,7 +30,6 @@ QVEnterCommentViewBase {
             height: 24
             source: "icons/" + view.commentIconName
             color: view.commentIconName.endsWith("_error") ? theme.error : theme.textSecondary
-            sourceSize: Qt.size(48, 48)
         }
         TextArea {
             id: area

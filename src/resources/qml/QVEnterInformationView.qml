@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -24,7 +23,7 @@ QVEnterInformationViewBase {
         anchors.margins: 12
         anchors.bottomMargin: 6
 
-        ColorImage {
+        QVIconImage {
             id: nameIconImage
             objectName: "nameIcon"
             anchors.left: parent.left
@@ -34,7 +33,6 @@ QVEnterInformationViewBase {
             height: 24
             source: "icons/" + view.nameIconName
             color: view.nameIconName.endsWith("_error") ? theme.error : theme.textSecondary
-            sourceSize: Qt.size(48, 48)
         }
         FormTextField {
             id: name
@@ -59,7 +57,7 @@ QVEnterInformationViewBase {
             height: 1
             color: theme.separator
         }
-        ColorImage {
+        QVIconImage {
             id: emailIconImage
             objectName: "emailIcon"
             anchors.left: parent.left
@@ -69,7 +67,6 @@ QVEnterInformationViewBase {
             height: 24
             source: "icons/" + view.emailIconName
             color: view.emailIconName.endsWith("_error") ? theme.error : theme.textSecondary
-            sourceSize: Qt.size(48, 48)
         }
         FormTextField {
             id: email

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -20,7 +19,7 @@ QVEnterOfferTitleViewBase {
         anchors.topMargin: 0
         anchors.bottomMargin: 6
 
-        ColorImage {
+        QVIconImage {
             id: icon
             objectName: "nameIcon"
             anchors.left: parent.left
@@ -30,7 +29,6 @@ QVEnterOfferTitleViewBase {
             height: 24
             source: "icons/" + view.nameIconName
             color: view.nameIconName.endsWith("_error") ? theme.error : theme.textSecondary
-            sourceSize: Qt.size(48, 48)
         }
         FormTextField {
             id: field

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.impl
-import QtQuick.Controls.Basic
 import QuorvaMedia
 
 QVFilterUICollectionViewCellBase {
@@ -35,7 +33,7 @@ QVFilterUICollectionViewCellBase {
         anchors.margins: 2
         cornerRadius: 6
     }
-    Label {
+    Text {
         id: label
         objectName: "name"
         Accessible.ignored: true // the row reads its title
@@ -51,7 +49,7 @@ QVFilterUICollectionViewCellBase {
         color: theme.textPrimary
         elide: Text.ElideRight
     }
-    ColorImage {
+    QVIconImage {
         id: check
         objectName: "checkmarkImage"
         anchors.right: parent.right
@@ -61,7 +59,6 @@ QVFilterUICollectionViewCellBase {
         height: 22
         source: "icons/checkmark.svg"
         color: theme.accent
-        sourceSize: Qt.size(44, 44)
         visible: false
     }
     Rectangle {

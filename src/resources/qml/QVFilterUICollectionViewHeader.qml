@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.Basic
 import QuorvaMedia
 
 QVFilterUICollectionViewHeaderBase {
@@ -16,7 +15,7 @@ QVFilterUICollectionViewHeaderBase {
     Accessible.name: title
     Accessible.ignored: !visible || overlayHidden
 
-    Label {
+    Text {
         id: label
         objectName: "name"
         Accessible.ignored: true // the header reads its title

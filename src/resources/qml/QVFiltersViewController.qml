@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.Basic
 import Qt.labs.qmlmodels
 import QuorvaMedia
 
@@ -45,11 +44,12 @@ QVFiltersViewControllerBase {
                 }
             }
         }
-
-        ScrollIndicator.vertical: ScrollIndicator { Accessible.ignored: true }
+    }
+    ScrollBarLine {
+        list: list
     }
 
-    Button {
+    FlatButton {
         id: save
         objectName: "saveButton"
         visible: false
@@ -58,29 +58,12 @@ QVFiltersViewControllerBase {
         anchors.bottom: parent.bottom
         anchors.margins: 14
         height: 48
+        radius: panel.cornerRadius
+        textPixelSize: 17
+        surroundings: theme.card
         text: qsTr("Apply Filters")
         Accessible.name: qsTr("Apply the filters")
         Accessible.ignored: !visible || overlayHidden
-        Accessible.onPressAction: clicked()
-        Keys.onReturnPressed: clicked()
-        Keys.onEnterPressed: clicked()
         onClicked: panel.onSavedPressed()
-        background: Rectangle {
-            radius: panel.cornerRadius
-            color: save.pressed ? theme.tint(theme.accent, theme.textPrimary, 0.2) : theme.accent
-            FocusRing {
-                shown: save.visualFocus
-                cornerRadius: panel.cornerRadius
-            }
-        }
-        contentItem: Label {
-            Accessible.ignored: true
-            text: save.text
-            font.pixelSize: 17
-            font.bold: true
-            color: theme.card
-            horizontalAlignment: Text.AlignHCenter
-            verticalAlignment: Text.AlignVCenter
-        }
     }
 }

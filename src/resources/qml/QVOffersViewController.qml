@@ -175,16 +175,8 @@ QVOffersViewControllerBase {
         }
     }
 
-    // A thin bar showing where the list is, while it moves.
-    Rectangle {
-        anchors.right: list.right
-        anchors.rightMargin: 2
-        y: list.y + list.visibleArea.yPosition * list.height
-        width: 3
-        height: list.visibleArea.heightRatio * list.height
-        radius: 1.5
-        color: theme.withAlpha(theme.textPrimary, 0.5)
-        visible: list.moving && list.visibleArea.heightRatio < 1
+    ScrollBarLine {
+        list: list
     }
 
     Column {

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -63,7 +62,7 @@ QVQACollectionViewCellBase {
                 color: theme.accent
                 wrapMode: Text.Wrap
             }
-            ColorImage {
+            QVIconImage {
                 anchors.right: parent.right
                 anchors.rightMargin: 12
                 y: cell.padding
@@ -72,7 +71,6 @@ QVQACollectionViewCellBase {
                 rotation: 90
                 source: "icons/chevron.svg"
                 color: theme.textSecondary
-                sourceSize: Qt.size(40, 40)
             }
             Text {
                 id: answerText

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -64,7 +63,7 @@ QVQuestionCollectionViewCellBase {
                 fontSizeMode: Text.Fit
                 minimumPixelSize: 10
             }
-            ColorImage {
+            QVIconImage {
                 id: chevron
                 anchors.right: parent.right
                 anchors.rightMargin: 12
@@ -74,7 +73,6 @@ QVQuestionCollectionViewCellBase {
                 source: "icons/chevron.svg"
                 mirror: rightToLeft
                 color: theme.textSecondary
-                sourceSize: Qt.size(40, 40)
             }
         }
     }

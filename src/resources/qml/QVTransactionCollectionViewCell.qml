@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.impl
 import QtQuick.Controls.Basic
 import QuorvaMedia
 
@@ -58,14 +57,13 @@ QVTransactionCollectionViewCellBase {
                 height: parent.height
                 color: theme.payoutButton
             }
-            ColorImage {
+            QVIconImage {
                 anchors.centerIn: parent
                 anchors.horizontalCenterOffset: -2
                 width: 18
                 height: 18
                 source: "icons/checkmark-white.svg"
                 color: theme.payoutText
-                sourceSize: Qt.size(36, 36)
             }
         }
 

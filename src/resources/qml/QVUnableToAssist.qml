@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
-import QtQuick.Controls.impl
 import QuorvaMedia
 
 // Shown in the send button's place, at its height.
@@ -21,7 +20,7 @@ QVUnableToAssistBase {
         radius: theme.cornerRadius
         color: theme.tint(theme.card, theme.accent, 0.09)
 
-        ColorImage {
+        QVIconImage {
             id: icon
             anchors.left: parent.left
             anchors.leftMargin: 14
@@ -30,7 +29,6 @@ QVUnableToAssistBase {
             height: 24
             source: "icons/info.svg"
             color: theme.accent
-            sourceSize: Qt.size(48, 48)
         }
         Column {
             id: texts

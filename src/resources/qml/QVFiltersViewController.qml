@@ -62,6 +62,7 @@ QVFiltersViewControllerBase {
         textPixelSize: 17
         surroundings: theme.card
         text: qsTr("Apply Filters")
+        Accessible.role: Accessible.Button
         Accessible.name: qsTr("Apply the filters")
         Accessible.ignored: !visible || overlayHidden
         onClicked: panel.onSavedPressed()

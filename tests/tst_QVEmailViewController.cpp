@@ -20,6 +20,13 @@ bool inForm(QVEmailViewController *form, QQuickItem *piece)
     return piece->parentItem() == form->contentView();
 }
 
+// Wholly inside the form's scroll view as it is drawn now.
+bool inView(QVEmailViewController *form, QQuickItem *item)
+{
+    QQuickItem *scroll = form->scrollView();
+    return QRectF(QPointF(), scroll->size()).contains(item->mapRectToItem(scroll, item->boundingRect()));
+}
+
 bool checked(QQuickItem *chooser, const char *checkmark)
 {
     return chooser->findChild<QQuickItem *>(QLatin1StringView(checkmark))->isVisible();
@@ -479,21 +486,53 @@ private slots:
         QCOMPARE(panel->opacity(), 0.0);
     }
 
+    // The user's drag towards the top ends editing once one step moves the form more
+    // than ten points; a drag the other way, or in small steps, does not.
+    // The user's drag towards the top ends editing once one step moves the form more
+    // than ten points; small steps do not.
     void draggingUpDismissesTheKeyboard()
     {
         SupportHarness harness;
         QVEmailViewController *form = formInState(harness, 2);
         QVERIFY(form);
         QQuickItem *scroll = form->scrollView();
+        QQuickItem *comment = form->enterCommentView()->commentInputField();
+        comment->forceActiveFocus();
+        QVERIFY(harness.restsBetweenFrames(scroll));
+        scroll->setProperty("contentY", scroll->property("contentHeight").toReal() - scroll->height());
+        QVERIFY(harness.restsBetweenFrames(scroll));
+
+        QWindow *window = harness.window.get();
+        QPoint finger = scroll->mapToScene(QPointF(6, scroll->height() / 2)).toPoint();
+        QTest::mousePress(window, Qt::LeftButton, {}, finger);
+        const qreal start = scroll->property("contentY").toReal();
+        for (int step = 0; step < 10; ++step)
+            QTest::mouseMove(window, finger += QPoint(0, 3));
+        QVERIFY(scroll->property("dragging").toBool());
+        QVERIFY(scroll->property("contentY").toReal() < start); // moved, three points at a time
+        QVERIFY(comment->hasActiveFocus());
+        QTest::mouseMove(window, finger += QPoint(0, 30));
+        QVERIFY(!comment->hasActiveFocus());
+        QTest::mouseRelease(window, Qt::LeftButton, {}, finger);
+    }
+
+    // Focus moving to a field above the screen (Shift+Tab, a screen reader) brings it into
+    // view; that scrolling is no drag and leaves the field its keyboard.
+    void fieldScrolledIntoViewKeepsItsKeyboard()
+    {
+        SupportHarness harness;
+        QVEmailViewController *form = formInState(harness, 2);
+        QVERIFY(form);
+        QQuickItem *scroll = form->scrollView();
+        scroll->setProperty("contentY", scroll->property("contentHeight").toReal() - scroll->height());
+        QVERIFY(harness.restsBetweenFrames(scroll));
         QQuickItem *name = form->enterInfoView()->nameTextField();
-        name->forceActiveFocus();
-        scroll->setProperty("contentY", 100);
-        scroll->setProperty("contentY", 150); // downwards: never
-        QVERIFY(name->hasActiveFocus());
-        scroll->setProperty("contentY", 140); // exactly ten points up: not yet
-        QVERIFY(name->hasActiveFocus());
-        scroll->setProperty("contentY", 129); // more than ten in one step
-        QVERIFY(!name->hasActiveFocus());
+        QVERIFY(!inView(form, name));
+        name->forceActiveFocus(Qt::BacktabFocusReason);
+        QVERIFY(harness.restsBetweenFrames(scroll));
+        QVERIFY(inView(form, name));
+        QVERIFY2(name->hasActiveFocus(), harness.window->activeFocusItem()
+                     ? qPrintable(harness.window->activeFocusItem()->objectName()) : "focus on nothing");
     }
 
     void keyboardAloneFilesATicket()

@@ -370,9 +370,11 @@ void QVEmailViewController::scrollViewDidScroll()
 {
     if (!d_func()->m_scrollView)
         return;
-    // Only a drag towards the top of more than ten points since the last report.
+    // Only the user's drag towards the top of more than ten points since the last
+    // report: the form's own scrolling (a focused field brought into view) keeps the
+    // field's keyboard, however fast it moves between two slow frames.
     const qreal offset = d_func()->m_scrollView->property("contentY").toReal();
-    if (d_func()->m_lastContentOffsetY > offset + kDismissDragDistance)
+    if (d_func()->m_scrollView->property("dragging").toBool() && d_func()->m_lastContentOffsetY > offset + kDismissDragDistance)
         endEditing();
     d_func()->m_lastContentOffsetY = offset;
 }

@@ -325,6 +325,9 @@ public:
     void loadMoreOffers();
     /// Hides the credit notice before its time.
     Q_INVOKABLE void dismissCreditNotice();
+    /// Closes the open sort and filter panel or support centre, as Escape does. False
+    /// when neither is open, or while an alert is (an alert closes itself).
+    Q_INVOKABLE bool closeOpenPanel();
 
     /// Opens the offer's click address in the browser and emits offerOpened(); an
     /// address that is not valid opens nothing.
@@ -379,7 +382,6 @@ protected:
     void geometryChange(const QRectF &newGeometry, const QRectF &oldGeometry) override;
     void updatePolish() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
     ///@}
 
 private:

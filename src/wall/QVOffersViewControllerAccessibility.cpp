@@ -208,21 +208,20 @@ void QVOffersViewController::orderRows()
     polish();
 }
 
-void QVOffersViewController::keyPressEvent(QKeyEvent *event)
+bool QVOffersViewController::closeOpenPanel()
 {
     Q_D(QVOffersViewController);
-    // Escape closes what is open, the topmost first: an alert closes itself.
-    if (event->key() == Qt::Key_Escape && d->m_openAlerts.isEmpty()) {
-        if (d->m_isFiltersViewOpen) {
-            closeFiltersView();
-            return;
-        }
-        if (d->m_isSupportViewOpen) {
-            closeSupportView();
-            return;
-        }
+    if (!d->m_openAlerts.isEmpty())
+        return false;
+    if (d->m_isFiltersViewOpen) {
+        closeFiltersView();
+        return true;
     }
-    QQuickItem::keyPressEvent(event);
+    if (d->m_isSupportViewOpen) {
+        closeSupportView();
+        return true;
+    }
+    return false;
 }
 
 void QVOffersViewController::putRowsInScreenOrder()

@@ -6,6 +6,8 @@
 #include "Patience.h"
 #include "WallHarness.h"
 
+#include <QtCore/QDeadlineTimer>
+
 // A wall in a real window with its support centre opened through the header button.
 class SupportHarness : public WallHarness
 {
@@ -49,11 +51,28 @@ public:
     void clickInForm(QVEmailViewController *form, QQuickItem *item)
     {
         QQuickItem *scroll = form->scrollView();
+        // The form may still be bringing a focused field into view (after an alert, say);
+        // a click while it moves lands where the item was when the click was aimed.
+        QVERIFY2(restsBetweenFrames(scroll), "the form kept scrolling");
         const QRectF inContent = item->mapRectToItem(form->contentView(), item->boundingRect());
         const qreal maxY = qMax<qreal>(0, scroll->property("contentHeight").toReal() - scroll->height());
         scroll->setProperty("contentY", qBound<qreal>(0, inContent.center().y() - scroll->height() / 2, maxY));
         QVERIFY2(nextFrame(), "no frame was drawn after scrolling the form");
         click(item);
+    }
+
+    // True once a frame leaves the scroll view where the frame before it did.
+    bool restsBetweenFrames(QQuickItem *scroll)
+    {
+        QDeadlineTimer patience(kPatienceMs);
+        while (!patience.hasExpired()) {
+            const qreal before = scroll->property("contentY").toReal();
+            if (!nextFrame())
+                return false;
+            if (!scroll->property("moving").toBool() && qFuzzyCompare(1 + before, 1 + scroll->property("contentY").toReal()))
+                return true;
+        }
+        return false;
     }
 
     // Types into input through the window, key by key.

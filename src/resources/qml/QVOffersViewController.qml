@@ -19,6 +19,9 @@ QVOffersViewControllerBase {
     creditNotice: creditNoticeView
 
     clip: true
+    // Escape closes what is open, the topmost first; what it does not close goes on to
+    // the host.
+    Keys.onEscapePressed: (event) => { event.accepted = root.closeOpenPanel() }
     // A right-to-left language mirrors every screen below the wall.
     LayoutMirroring.enabled: root.rightToLeft
     LayoutMirroring.childrenInherit: true

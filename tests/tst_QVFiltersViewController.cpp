@@ -170,6 +170,23 @@ private slots:
         QVERIFY(!all.contains("featured_only"));
     }
 
+    // The categories arrive while the keyboard is on a choice: every row is built anew,
+    // and the keyboard stays on the choice it was on.
+    void keyboardStaysOnItsChoiceWhenCategoriesArrive()
+    {
+        m_service.setHeld(FakeOfferService::Categories, true);
+        WallHarness harness;
+        QVERIFY(harness.showFirstPage());
+        QVFiltersViewController *panel = openPanel(harness);
+        QVERIFY(panel);
+        QQuickItem *trending = rowsOf(panel).value(QStringLiteral("Trending"));
+        trending->forceActiveFocus(Qt::TabFocusReason);
+        QVERIFY(!rowsOf(panel).contains(QStringLiteral("Games")));
+        m_service.setHeld(FakeOfferService::Categories, false);
+        QTRY_VERIFY(rowsOf(panel).contains(QStringLiteral("Games")));
+        QTRY_VERIFY(harness.window->activeFocusItem() == rowsOf(panel).value(QStringLiteral("Trending")));
+    }
+
     void reopeningWhileThePanelSlidesOut()
     {
         WallHarness harness;

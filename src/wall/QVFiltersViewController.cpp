@@ -6,11 +6,13 @@
 #include "AssignIfChanged.h"
 #include "QVAlertPresenter.h"
 #include "DeviceIdiom.h"
+#include "FocusChain.h"
 #include "QVFilterListModel.h"
 #include "QuorvaLog.h"
 #include "QuorvaRestAPI.h"
 
 #include <QtCore/QPointer>
+#include <QtQuick/QQuickWindow>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QTouchEvent>
 #include <QtGui/QWheelEvent>
@@ -30,6 +32,9 @@ constexpr const char *kShownNames[] = {
     QT_TRANSLATE_NOOP("QVFiltersViewController", "Credit Delay"),
 };
 constexpr QLatin1StringView kCategoriesFailedLog("Categories request failed");
+// The delegate properties that place a choice row (the interface file names them).
+constexpr const char *kSectionIndexProperty = "sectionIndex";
+constexpr const char *kRowProperty = "row";
 constexpr const char *kAlertTitle = QT_TRANSLATE_NOOP("QVFiltersViewController", "No Connection");
 constexpr const char *kAlertMessage = QT_TRANSLATE_NOOP("QVFiltersViewController", "Please check your internet and try again.");
 constexpr const char *kAlertAction = QT_TRANSLATE_NOOP("QVFiltersViewController", "Ok");
@@ -185,7 +190,20 @@ void QVFiltersViewController::refresh()
             break;
         }
     }
+    // The reset builds every row anew: a keyboard on a choice stays on that choice.
+    QQuickItem *focused = window() ? window()->activeFocusItem() : nullptr;
+    const bool hadKeyboard = focused && isAncestorOf(focused);
+    const QVariant section = hadKeyboard ? focused->property(kSectionIndexProperty) : QVariant();
+    const QVariant row = hadKeyboard ? focused->property(kRowProperty) : QVariant();
     d_func()->m_model->reload();
+    if (hadKeyboard) {
+        quorva::detail::focusFirstWhenBuilt(d_func()->m_collectionView, quorva::detail::kFocusAttempts,
+                                            [section, row](QQuickItem *choice) {
+                                                return !section.isValid()
+                                                    || (choice->property(kSectionIndexProperty) == section
+                                                        && choice->property(kRowProperty) == row);
+                                            });
+    }
 }
 
 void QVFiltersViewController::didSelectItem(int section, int row)

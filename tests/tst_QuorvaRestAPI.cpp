@@ -212,7 +212,7 @@ private slots:
         if (withProvider) {
             api->setAdvertisingInfoProvider([&] {
                 ++providerCalls;
-                providerOnGuiThread = QThread::currentThread() == qApp->thread();
+                providerOnGuiThread = QThread::currentThread() == QCoreApplication::instance()->thread();
                 return QVAdvertisingInfo{QStringLiteral("{6f9619ff-8b86-d011-b42d-00cf4fc964ff}"), true};
             });
         }

@@ -38,9 +38,10 @@ QVEmailViewController::QVEmailViewController(QQuickItem *parent)
     setFlag(ItemIsFocusScope, true);
     // What the keyboard moves to is scrolled into view, as a tap's target already is.
     connect(this, &QQuickItem::windowChanged, this, [this](QQuickWindow *window) {
+        disconnect(d_func()->m_focusInView);
         if (window)
-            connect(window, &QQuickWindow::activeFocusItemChanged, this, &QVEmailViewController::keepFocusInView,
-                    Qt::UniqueConnection);
+            d_func()->m_focusInView = connect(window, &QQuickWindow::activeFocusItemChanged, this,
+                                              &QVEmailViewController::keepFocusInView);
     });
 }
 
@@ -52,7 +53,13 @@ void QVEmailViewController::keepFocusInView()
         scrollRectToVisible(focused->mapRectToItem(content, focused->boundingRect()));
 }
 
-QVEmailViewController::~QVEmailViewController() = default;
+QVEmailViewController::~QVEmailViewController()
+{
+    // The window goes on changing its focus while the items below this one are destroyed;
+    // by then this is no longer a form to call.
+    disconnect(d_func()->m_focusInView);
+    disconnect(this, &QQuickItem::windowChanged, this, nullptr);
+}
 
 template <typename Piece>
 Piece *QVEmailViewController::loadPiece(const char *objectName)

@@ -11,6 +11,7 @@ class QVEmailViewControllerPrivate
 {
 public:
     QVEmailViewControllerDelegate *m_delegate = nullptr;
+    QMetaObject::Connection m_focusInView; // the window's focus changes, to keep the focus in view
     QQuickItem *m_scrollView = nullptr;
     QQuickItem *m_datePickerView = nullptr;
     QQuickItem *m_uiDatePicker = nullptr;

@@ -45,11 +45,11 @@ bool spokenFor(QQuickItem *item)
         && accessible->role() != QAccessible::NoRole && accessible->role() != QAccessible::Client;
 }
 
-// What a user cannot read on the screen: texts that are cut (elided, wider than their
-// box, outside the window, or below the edge of a box that clips them), but for offer
-// names and descriptions, which may end in an ellipsis; on a mirrored screen, texts that
-// start at the left edge of a wider box (whatever its script, a text starts at the
-// reading start); and controls a screen reader cannot name.
+// What a user cannot read on the screen: texts that are cut (elided, wider or taller than
+// their box, outside the window, or below the edge of a box that clips them), but for
+// offer names and descriptions, which may end in an ellipsis; on a mirrored screen, texts
+// that start at the left edge of a wider box (whatever its script, a text starts at the
+// reading start); and controls a screen reader cannot name or a finger can hardly hit.
 QStringList badTexts(QQuickWindow *window, bool mirrored)
 {
     const QStringList mayElide{QStringLiteral("nameLabel"), QStringLiteral("descriptionLabel"),
@@ -61,6 +61,11 @@ QStringList badTexts(QQuickWindow *window, bool mirrored)
         if (control && item->isVisible() && item->opacity() > 0 && !spokenFor(item) && !spokenFor(item->parentItem()))
             bad.append(QStringLiteral("no accessible name or role: %1 %2")
                            .arg(QLatin1String(item->metaObject()->className()), item->objectName()));
+        if (control && item->isVisible() && item->opacity() > 0 && (item->width() < 44 || item->height() < 44))
+            bad.append(QStringLiteral("smaller than a finger: %1 %2 (%3 x %4)")
+                           .arg(QLatin1String(item->metaObject()->className()), item->objectName())
+                           .arg(item->width())
+                           .arg(item->height()));
         const bool isText = item->inherits("QQuickText") || item->inherits("QQuickTextInput")
             || item->inherits("QQuickTextEdit");
         if (!isText || !item->isVisible() || item->opacity() == 0 || textOf(item).isEmpty())
@@ -68,6 +73,7 @@ QStringList badTexts(QQuickWindow *window, bool mirrored)
         const QRectF inWindow = item->mapRectToScene(QRectF(0, 0, item->width(), item->height()));
         const qreal contentWidth = item->property("contentWidth").toReal();
         bool cut = item->property("truncated").toBool() || contentWidth > item->width() + 1
+            || item->property("contentHeight").toReal() > item->height() + 1
             || inWindow.left() < -1 || inWindow.right() > window->width() + 1;
         // What a list or a scroll view holds can be scrolled into its view, which itself
         // must be in sight.
@@ -207,9 +213,15 @@ private slots:
     {
         QTest::addColumn<bool>("tablet");
         QTest::addColumn<QString>("language");
+        QTest::addColumn<qreal>("textScale");
         for (const char *language : {"pseudo", "de_DE", "es_ES", "fr_FR", "pt_BR", "ar_EG"}) {
-            QTest::addRow("%s, phone", language) << false << QString::fromLatin1(language);
-            QTest::addRow("%s, tablet", language) << true << QString::fromLatin1(language);
+            QTest::addRow("%s, phone", language) << false << QString::fromLatin1(language) << 1.0;
+            QTest::addRow("%s, tablet", language) << true << QString::fromLatin1(language) << 1.0;
+        }
+        // The largest text, in the shortest language and the longest.
+        for (const char *language : {"en_US", "de_DE"}) {
+            QTest::addRow("%s, phone, largest text", language) << false << QString::fromLatin1(language) << 2.0;
+            QTest::addRow("%s, tablet, largest text", language) << true << QString::fromLatin1(language) << 2.0;
         }
     }
 
@@ -217,13 +229,18 @@ private slots:
     {
         QFETCH(bool, tablet);
         QFETCH(QString, language);
+        QFETCH(qreal, textScale);
         QVDevice::setUserInterfaceIdiom(tablet ? QVDevice::Idiom::Tablet : QVDevice::Idiom::Phone);
+        QVDevice::setTextScale(textScale);
         PseudoTranslator pseudo;
         if (language == QLatin1String("pseudo"))
             QCoreApplication::installTranslator(&pseudo);
         else
             QLocale::setDefault(QLocale(language));
-        const auto remove = qScopeGuard([&] { QCoreApplication::removeTranslator(&pseudo); });
+        const auto remove = qScopeGuard([&] {
+            QCoreApplication::removeTranslator(&pseudo);
+            QVDevice::setTextScale(1.0);
+        });
         const QSize size = tablet ? QSize(1024, 768) : QSize(390, 780);
         const auto closeAlert = [](QQuickItem *owner) {
             const auto alerts = owner->findChildren<QObject *>(QStringLiteral("alert"));
@@ -278,8 +295,12 @@ private slots:
         VERIFY_TEXTS_READ_WELL(supportHarness);
         QVChooseSubjectView *subject = form->chooseSubjectView();
         QVOfferTimeCompletedView *time = form->offerTimeCompleted();
-        for (QQuickItem *choice : {subject->notCreditBtn(), time->noButton(), time->yesButton(), subject->reportBtn()}) {
+        // Each choice and the form's state after it: not credited, not completed, completed, report.
+        const std::pair<QQuickItem *, int> choices[]{
+            {subject->notCreditBtn(), 1}, {time->noButton(), 3}, {time->yesButton(), 2}, {subject->reportBtn(), 4}};
+        for (const auto &[choice, state] : choices) {
             supportHarness.clickInForm(form, choice);
+            QTRY_COMPARE(form->activeUISate(), state);
             VERIFY_TEXTS_READ_WELL(supportHarness);
             // The notice in the send piece's place, at its height, however its texts wrap.
             if (choice == time->noButton())

@@ -476,8 +476,8 @@ private slots:
         QCOMPARE(harness.wall->creditNoticeText(), QStringLiteral("+20 Gems"));
         QVERIFY(harness.nextFrame());
         const QImage frame = harness.window->grabWindow();
-        QVERIFY(notice->mapRectToScene(notice->boundingRect()).contains(tabs->mapToScene(QPointF(tabs->width() / 2, 4))));
-        QVERIFY(!drawnIn(frame, tabs->mapToScene(QPointF(tabs->width() / 2, 4)), harness.wall->theme().payoutButton));
+        QVERIFY(notice->mapRectToScene(notice->boundingRect()).contains(tabs->mapToScene(QPointF(tabs->width() / 2, tabs->height() / 2))));
+        QVERIFY(!drawnIn(frame, tabs->mapToScene(QPointF(tabs->width() / 2, tabs->height() / 2)), harness.wall->theme().payoutButton));
         harness.wall->onSupportPressed();
         QTRY_VERIFY(!harness.wall->isSupportViewOpen() && !harness.wall->isOverlayAnimating());
 

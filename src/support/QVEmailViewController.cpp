@@ -100,6 +100,9 @@ void QVEmailViewController::viewDidLoad()
     if (pieces.contains(nullptr) || !d_func()->m_scrollView)
         return; // the interface files are broken; there is no form to show
     d_func()->m_sendPieceHeight = d_func()->m_sendButtonView->height();
+    // A piece whose texts grow (a larger text size, a wrapped label) pushes the ones below.
+    for (QQuickItem *piece : pieces)
+        connect(piece, &QQuickItem::heightChanged, this, &QVEmailViewController::restack);
 
     auto *scrollContent = d_func()->m_scrollView->property("contentItem").value<QQuickItem *>();
     d_func()->m_contentView = new QQuickItem(scrollContent);
@@ -250,6 +253,28 @@ void QVEmailViewController::fitUnableToAssist()
     const qreal height = std::max(d_func()->m_sendPieceHeight, notice->implicitHeight());
     notice->setHeight(height);
     send->setHeight(height);
+}
+
+void QVEmailViewController::restack()
+{
+    if (!d_func()->m_contentView)
+        return;
+    // Every state shows its pieces in this order, one under the other.
+    qreal top = 0;
+    for (QQuickItem *piece : {static_cast<QQuickItem *>(d_func()->m_enterInfoView),
+                              static_cast<QQuickItem *>(d_func()->m_chooseSubjectView),
+                              static_cast<QQuickItem *>(d_func()->m_offerTimeCompleted),
+                              static_cast<QQuickItem *>(d_func()->m_offerDateCompletedView),
+                              static_cast<QQuickItem *>(d_func()->m_enterOfferTitleView),
+                              static_cast<QQuickItem *>(d_func()->m_enterCommentView),
+                              static_cast<QQuickItem *>(d_func()->m_unableToAssistView),
+                              static_cast<QQuickItem *>(d_func()->m_sendButtonView)}) {
+        if (!piece || piece->parentItem() != d_func()->m_contentView || !piece->isVisible())
+            continue;
+        piece->setY(top);
+        top += piece->height();
+    }
+    updateContentSize();
 }
 
 void QVEmailViewController::stackInReadingOrder()

@@ -4,6 +4,7 @@
 #include "QVFAQViewController.h"
 #include "QVFAQViewControllerPrivate.h"
 #include "AssignIfChanged.h"
+#include "QVDevice.h"
 #include "QVQACollectionViewCell.h"
 #include "QVFaqListModel.h"
 #include "QVLanguage.h"
@@ -18,6 +19,9 @@ QVFAQViewController::QVFAQViewController(QQuickItem *parent)
     : QQuickItem(parent), m_d(std::make_unique<QVFAQViewControllerPrivate>())
 {
     d_func()->m_model = new QVFaqListModel(this);
+    // Rows are measured when they are built: a new text size builds them again.
+    connect(QVDevice::instance(), &QVDevice::textScaleChanged, d_func()->m_model, &QVFaqListModel::reload,
+            Qt::QueuedConnection);
 }
 
 QVFAQViewController::~QVFAQViewController() = default;
@@ -71,9 +75,11 @@ int QVFAQViewController::keyboardRow() const
 
 qreal QVFAQViewController::heightForRow(int row, qreal width) const
 {
-    if (!isExpanded(row) || row >= numberOfItems())
+    if (row < 0 || row >= numberOfItems())
         return kCollapsedHeight;
     const quorva::detail::FaqEntry &entry = d_func()->m_model->entries().at(row);
+    if (!isExpanded(row))
+        return qMax(kCollapsedHeight, QVQACollectionViewCell::fittingQuestionHeight(entry.question, width));
     return QVQACollectionViewCell::fittingHeight(entry.question, entry.answer, width);
 }
 

@@ -4,6 +4,8 @@
 #include "QVHistoryViewController.h"
 #include "QVHistoryViewControllerPrivate.h"
 #include "AssignIfChanged.h"
+#include "DeviceIdiom.h"
+#include "QVDevice.h"
 #include "QVPayoutFormatter.h"
 #include "QVTransactionsListModel.h"
 #include "QuorvaRestAPI.h"
@@ -16,6 +18,13 @@ QVHistoryViewController::QVHistoryViewController(QQuickItem *parent)
     Q_D(QVHistoryViewController);
     d->m_numberFormatter = std::make_unique<QVPayoutFormatter>();
     d->m_transactions = new QVTransactionsListModel(d->m_numberFormatter.get(), this);
+    connect(QVDevice::instance(), &QVDevice::textScaleChanged, this, &QVHistoryViewController::itemHeightChanged);
+}
+
+qreal QVHistoryViewController::itemHeight()
+{
+    // The name, the date and the status stacked: 70 points of the 130.
+    return quorva::detail::grownWithText(130, 70);
 }
 
 QVHistoryViewController::~QVHistoryViewController() = default;

@@ -31,7 +31,7 @@ class QUORVAMEDIA_EXPORT QVHistoryViewController : public QQuickItem
     /// True while the history request is under way.
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged FINAL)
     /// A row's height, in points.
-    Q_PROPERTY(qreal itemHeight READ itemHeight CONSTANT FINAL)
+    Q_PROPERTY(qreal itemHeight READ itemHeight NOTIFY itemHeightChanged FINAL)
     /// The space above the first row, in points.
     Q_PROPERTY(qreal sectionInsetTop READ sectionInsetTop CONSTANT FINAL)
 
@@ -44,7 +44,7 @@ public:
     static QString identifier() { return QStringLiteral("QVHistoryViewController"); }
     ///@{
     /// See the properties of the same names.
-    static qreal itemHeight() { return 130; }
+    static qreal itemHeight();
     static qreal sectionInsetTop() { return 5; }
     ///@}
 
@@ -63,6 +63,7 @@ signals:
     /// Emitted when the properties that name this signal as their NOTIFY change.
     void outletsChanged();
     void isLoadingChanged();
+    void itemHeightChanged();
     ///@}
 
 private:

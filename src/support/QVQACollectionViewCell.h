@@ -50,6 +50,8 @@ public:
 
     /// The height a cell of that width needs to show the whole question and answer.
     static qreal fittingHeight(const QString &question, const QString &answer, qreal width);
+    /// The height a closed row of that width needs to show the whole question.
+    Q_DECL_HIDDEN static qreal fittingQuestionHeight(const QString &question, qreal width);
 
 signals:
     /// Emitted when the properties that name this signal as their NOTIFY change.

@@ -61,6 +61,7 @@ list(APPEND QUORVA_QML_FILES
     resources/qml/QVOfferDateCompletedView.qml
     resources/qml/FormCard.qml
     resources/qml/FormTextField.qml
+    resources/qml/FieldHint.qml
     resources/qml/ChoiceRow.qml
     resources/qml/DateWheel.qml
 )

@@ -12,4 +12,11 @@ namespace quorva::detail {
 // popover's content), else from the primary screen.
 bool isTabletFor(const QQuickItem *item);
 
+// A height designed at text scale 1.0 of which its texts take textPart: the texts grow
+// with the host's text scale, the rest stays.
+double grownWithText(double designHeight, double textPart);
+
+// A designed font size at the host's text scale, rounded as the interface files round it.
+int scaledPixelSize(int designSize);
+
 } // namespace quorva::detail

@@ -9,12 +9,14 @@
 #include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
+#include <QtCore/qnumeric.h>
 
 #include <optional>
 
 namespace {
 std::optional<QVDevice::Idiom> g_fixedIdiom;
 QString g_model;
+qreal g_textScale = QVDevice::kMinimumTextScale;
 
 QVDevice::Idiom idiomForSize(QSizeF size)
 {
@@ -69,6 +71,22 @@ void QVDevice::resetUserInterfaceIdiom()
     emit instance()->userInterfaceIdiomChanged();
 }
 
+qreal QVDevice::textScale()
+{
+    return g_textScale;
+}
+
+void QVDevice::setTextScale(qreal scale)
+{
+    if (qIsNaN(scale))
+        return;
+    scale = qBound(kMinimumTextScale, scale, kMaximumTextScale);
+    if (qFuzzyCompare(scale, g_textScale))
+        return;
+    g_textScale = scale;
+    emit instance()->textScaleChanged();
+}
+
 QString QVDevice::model()
 {
     if (!g_model.isEmpty())
@@ -82,6 +100,16 @@ void QVDevice::setModel(const QString &model)
 }
 
 namespace quorva::detail {
+
+double grownWithText(double designHeight, double textPart)
+{
+    return designHeight + (g_textScale - 1) * textPart;
+}
+
+int scaledPixelSize(int designSize)
+{
+    return qRound(designSize * g_textScale);
+}
 
 bool isTabletFor(const QQuickItem *item)
 {

@@ -25,6 +25,11 @@ class QUORVAMEDIA_EXPORT QVDevice : public QObject
                    RESET resetUserInterfaceIdiom NOTIFY userInterfaceIdiomChanged FINAL)
     /// True for the tablet idiom of #userInterfaceIdiom.
     Q_PROPERTY(bool tablet READ isTablet NOTIFY userInterfaceIdiomChanged FINAL)
+    /// How much larger than designed the wall draws its texts, from #kMinimumTextScale to
+    /// #kMaximumTextScale; rows grow with their texts. A host forwards the platform's
+    /// text-size setting here (Qt 6.4 carries none to applications); writing applies to
+    /// every wall at once, open ones included.
+    Q_PROPERTY(qreal textScale READ textScale WRITE setTextScale NOTIFY textScaleChanged FINAL)
 
 public:
     /// The layout family of the wall's screens.
@@ -33,6 +38,11 @@ public:
 
     /// The shorter side, in logical pixels, from which a wall or screen is a tablet.
     static constexpr int kTabletMinimumShortSide = 600;
+    ///@{
+    /// The range of #textScale; values outside it are brought into it.
+    static constexpr qreal kMinimumTextScale = 1.0;
+    static constexpr qreal kMaximumTextScale = 2.0;
+    ///@}
 
     /// The one instance, as QML sees the singleton.
     static QVDevice *instance();
@@ -49,6 +59,11 @@ public:
     /// Back to each wall deciding by its own size.
     static void resetUserInterfaceIdiom();
 
+    /// See #textScale. Read on the GUI thread.
+    static qreal textScale();
+    /// Sets #textScale, brought into its range; a value that is not a number is ignored.
+    static void setTextScale(qreal scale);
+
     /// A short device-class name for the User-Agent; "Phone" or "Tablet" unless set.
     static QString model();
     /// Sets the device-class name sent in the User-Agent.
@@ -57,6 +72,8 @@ public:
 signals:
     /// Emitted when the idiom changes.
     void userInterfaceIdiomChanged();
+    /// Emitted when the text scale changes.
+    void textScaleChanged();
 
 private:
     explicit QVDevice(QObject *parent = nullptr);

@@ -6,6 +6,7 @@
 #include "AssignIfChanged.h"
 #include "QVAlertPresenter.h"
 #include "DeviceIdiom.h"
+#include "QVDevice.h"
 #include "FocusChain.h"
 #include "QVFilterListModel.h"
 #include "QuorvaLog.h"
@@ -60,6 +61,13 @@ QVFiltersViewController::QVFiltersViewController(QQuickItem *parent)
     d_func()->m_model = new QVFilterListModel(this);
     setAcceptedMouseButtons(Qt::AllButtons);
     setAcceptTouchEvents(true);
+    connect(QVDevice::instance(), &QVDevice::textScaleChanged, this, &QVFiltersViewController::itemHeightChanged);
+}
+
+qreal QVFiltersViewController::itemHeight()
+{
+    // Room for a second line of a large text.
+    return quorva::detail::grownWithText(60, 40);
 }
 
 void QVFiltersViewController::mousePressEvent(QMouseEvent *event)

@@ -45,7 +45,7 @@ class QUORVAMEDIA_EXPORT QVFiltersViewController : public QQuickItem
     /// Space above the first section, in points.
     Q_PROPERTY(qreal topMargin READ topMargin WRITE setTopMargin NOTIFY topMarginChanged FINAL)
     /// A row's height, in points.
-    Q_PROPERTY(qreal itemHeight READ itemHeight CONSTANT FINAL)
+    Q_PROPERTY(qreal itemHeight READ itemHeight NOTIFY itemHeightChanged FINAL)
     /// Space above each section, in points.
     Q_PROPERTY(qreal sectionInsetTop READ sectionInsetTop CONSTANT FINAL)
     /// The corner radius of a section's card, in points.
@@ -95,7 +95,7 @@ public:
     QAbstractItemModel *model() const;
     qreal topMargin() const;
     void setTopMargin(qreal margin);
-    static qreal itemHeight() { return 60; }
+    static qreal itemHeight();
     static qreal sectionInsetTop() { return 5; }
     static qreal cornerRadius() { return 6; }
     ///@}
@@ -126,6 +126,7 @@ signals:
     /// Emitted when the properties that name this signal as their NOTIFY change.
     void outletsChanged();
     void topMarginChanged();
+    void itemHeightChanged();
     ///@}
 
 protected:

@@ -9,6 +9,7 @@
 #include "QVCreditsWatcher.h"
 #include "OfferWallPreloadState.h"
 #include "QVDevice.h"
+#include "DeviceIdiom.h"
 #include "QVImageView.h"
 #include "QVLanguage.h"
 #include "QVOffersListModel.h"
@@ -65,6 +66,7 @@ QVOffersViewController::QVOffersViewController(QQuickItem *parent)
     // The palette changes when the system switches between light and dark.
     if (QCoreApplication *app = QCoreApplication::instance())
         app->installEventFilter(this);
+    connect(QVDevice::instance(), &QVDevice::textScaleChanged, this, &QVOffersViewController::cellSizeChanged);
 }
 
 void QVOffersViewController::setTheme(const QVTheme &theme)
@@ -173,9 +175,11 @@ void QVOffersViewController::setSubid4(const QString &value) { QuorvaRestAPI::sh
 
 QSizeF QVOffersViewController::sizeForItem(qreal viewWidth)
 {
+    // The name and three lines of task take 80 points of a cell; they grow with the text.
+    constexpr qreal kTextPart = 80;
     if (viewWidth > kTwoColumnMinimumWidth)
-        return {viewWidth * 0.5, 150};
-    return {viewWidth, 140};
+        return {viewWidth * 0.5, quorva::detail::grownWithText(150, kTextPart)};
+    return {viewWidth, quorva::detail::grownWithText(140, kTextPart)};
 }
 
 QAbstractItemModel *QVOffersViewController::offersModel() const { return d_func()->m_offers; }

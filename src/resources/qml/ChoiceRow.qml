@@ -15,7 +15,8 @@ RadioButton {
     property string checkmarkName
     property bool last: false
 
-    implicitHeight: 52
+    // One line of a larger text makes the row taller.
+    implicitHeight: Math.round(52 + 18 * (QVDevice.textScale - 1))
     focusPolicy: Qt.StrongFocus
     // The chooser decides what is chosen: a press never checks the button by itself.
     checkable: false
@@ -62,7 +63,7 @@ RadioButton {
             anchors.bottomMargin: 2
             verticalAlignment: Text.AlignVCenter
             text: row.text
-            font.pixelSize: 15
+            font.pixelSize: Math.round(15 * QVDevice.textScale)
             font.bold: check.visible
             color: theme.textPrimary
             wrapMode: Text.Wrap

@@ -12,6 +12,7 @@ Item {
     property alias delegate: tumbler.delegate
     property alias currentIndex: tumbler.currentIndex
     property alias wrap: tumbler.wrap
+    property alias rows: tumbler.visibleItemCount
     // What the wheel shows, as a screen reader says it ("March").
     property string valueText
     // The number of the first row: 1 for the month and the day, the first year.

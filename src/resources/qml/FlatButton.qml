@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
+import QuorvaMedia
 
 // A filled button in plain Qt Quick for screens that load no control style.
 Rectangle {
@@ -33,7 +34,7 @@ Rectangle {
         id: label
         anchors.centerIn: parent
         text: button.text
-        font.pixelSize: button.textPixelSize
+        font.pixelSize: Math.round(button.textPixelSize * QVDevice.textScale)
         font.bold: true
         color: theme.card
     }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
+import QuorvaMedia
 import QtQuick.Controls.Basic
 
 // A borderless single-line field for the form's cards, with a clear button while it
@@ -11,6 +12,8 @@ TextField {
     id: field
 
     property string label
+    // What the empty field asks for; it wraps where a placeholder would be cut.
+    property string hint
     // Set by the form when sending found this field wrong; said while the field shows it.
     property string errorText
     property bool inError: false
@@ -28,10 +31,17 @@ TextField {
 
     leftPadding: 0
     rightPadding: clear.visible ? clear.width + 4 : 0
-    font.pixelSize: 16
+    font.pixelSize: Math.round(16 * QVDevice.textScale)
     color: theme.textPrimary
-    placeholderTextColor: theme.textSecondary
     selectByMouse: true
+    // As tall as its hint needs, typed or not, so typing never moves the form.
+    implicitHeight: Math.max(contentHeight, hintText.implicitHeight) + topPadding + bottomPadding
+
+    FieldHint {
+        id: hintText
+        field: field
+        text: field.hint
+    }
     background: Item {
         FocusRing {
             target: parent
@@ -50,7 +60,7 @@ TextField {
         visible: field.text.length > 0 && field.activeFocus
         focusPolicy: Qt.NoFocus
         text: "\u00d7"
-        font.pixelSize: 18
+        font.pixelSize: Math.round(18 * QVDevice.textScale)
         Accessible.name: qsTr("Clear %1").arg(field.label)
         Accessible.ignored: !visible || overlayHidden
         Accessible.onPressAction: field.clearPressed()

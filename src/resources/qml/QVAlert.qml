@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
+import QuorvaMedia
 import QtQuick.Controls.Basic
 
 // A one-button alert centred over the item it belongs to.
@@ -34,7 +35,7 @@ Dialog {
         topPadding: 20
         leftPadding: 16
         rightPadding: 16
-        font.pixelSize: 17
+        font.pixelSize: Math.round(17 * QVDevice.textScale)
         font.bold: true
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.WordWrap
@@ -51,20 +52,22 @@ Dialog {
         bottomPadding: 18
         leftPadding: 16
         rightPadding: 16
-        font.pixelSize: 14
+        font.pixelSize: Math.round(14 * QVDevice.textScale)
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.WordWrap
         color: theme.textSecondary
     }
 
     footer: Item {
-        implicitHeight: 46
+        // The action's row grows with a large text.
+        implicitHeight: Math.max(46, action.implicitHeight + 1)
         Rectangle {
             width: parent.width
             height: 1
             color: theme.separator
         }
         Button {
+            id: action
             objectName: "alertAction"
             anchors.fill: parent
             anchors.topMargin: 1
@@ -74,7 +77,7 @@ Dialog {
             Keys.onReturnPressed: clicked()
             Keys.onEnterPressed: clicked()
             flat: true
-            font.pixelSize: 17
+            font.pixelSize: Math.round(17 * QVDevice.textScale)
             font.bold: true
             onClicked: alert.close()
             background: Rectangle {

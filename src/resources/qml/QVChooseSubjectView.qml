@@ -15,7 +15,8 @@ QVChooseSubjectViewBase {
     reportCheckmark: report.checkmark
     otherCheckmark: other.checkmark
 
-    height: 212
+    // Grows with its texts: a large text, a long language.
+    height: Math.max(212, 40 + title.implicitHeight + notCredited.height + report.height + other.height)
 
     FormCard {
         anchors.fill: parent
@@ -31,11 +32,11 @@ QVChooseSubjectViewBase {
             anchors.leftMargin: 16
             anchors.rightMargin: 16
             y: 14
-            // The rows below have a fixed height: a long heading gets smaller instead.
+            // One line: a long heading gets smaller instead.
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 9
             text: qsTr("What can we help you with?")
-            font.pixelSize: 13
+            font.pixelSize: Math.round(13 * QVDevice.textScale)
             font.bold: true
             font.capitalization: Font.AllUppercase
             font.letterSpacing: 0.6

@@ -56,7 +56,7 @@ QVEmailViewControllerBase {
             anchors.rightMargin: 8
             anchors.verticalCenter: done.verticalCenter
             text: qsTr("When did you complete it?")
-            font.pixelSize: 15
+            font.pixelSize: Math.round(15 * QVDevice.textScale)
             font.bold: true
             color: theme.textPrimary
             wrapMode: Text.Wrap
@@ -67,8 +67,9 @@ QVEmailViewControllerBase {
             anchors.right: parent.right
             anchors.top: parent.top
             anchors.rightMargin: 8
-            anchors.topMargin: 6
             flat: true
+            implicitWidth: Math.max(44, implicitContentWidth + leftPadding + rightPadding)
+            implicitHeight: Math.max(44, implicitContentHeight + topPadding + bottomPadding)
             text: qsTr("Done")
             Accessible.name: qsTr("Done choosing the date")
             Accessible.ignored: !visible || overlayHidden
@@ -84,7 +85,7 @@ QVEmailViewControllerBase {
             contentItem: Text {
                 Accessible.ignored: true
                 text: done.text
-                font.pixelSize: 16
+                font.pixelSize: Math.round(16 * QVDevice.textScale)
                 font.bold: true
                 color: theme.accent
                 horizontalAlignment: Text.AlignHCenter
@@ -100,11 +101,13 @@ QVEmailViewControllerBase {
             anchors.top: done.bottom
             anchors.bottom: parent.bottom
             anchors.margins: 8
+            // Fewer, taller rows for a large text.
+            readonly property int rows: QVDevice.textScale > 1.5 ? 3 : 5
 
             Rectangle {
                 anchors.verticalCenter: parent.verticalCenter
                 width: parent.width
-                height: 36
+                height: parent.height / picker.rows - 2
                 radius: 8
                 color: theme.tint(theme.card, theme.textPrimary, 0.06)
             }
@@ -113,6 +116,7 @@ QVEmailViewControllerBase {
                 DateWheel {
                     width: parent.width * 0.42
                     height: parent.height
+                    rows: picker.rows
                     model: picker.monthNames
                     currentIndex: picker.monthIndex
                     valueText: picker.monthNames[picker.monthIndex]
@@ -123,6 +127,7 @@ QVEmailViewControllerBase {
                 DateWheel {
                     width: parent.width * 0.2
                     height: parent.height
+                    rows: picker.rows
                     model: 31
                     currentIndex: picker.dayIndex
                     valueText: picker.dayIndex + 1
@@ -130,9 +135,9 @@ QVEmailViewControllerBase {
                     delegate: Text {
                         required property int index
                         text: index + 1
-                        font.pixelSize: 17
+                        font.pixelSize: Math.round(17 * QVDevice.textScale)
                         color: theme.textPrimary
-                        opacity: 1.0 - Math.abs(Tumbler.displacement) / 3
+                        opacity: 1.0 - Math.abs(Tumbler.displacement) / ((picker.rows + 1) / 2)
                         horizontalAlignment: Text.AlignHCenter
                         verticalAlignment: Text.AlignVCenter
                     }
@@ -141,6 +146,7 @@ QVEmailViewControllerBase {
                 DateWheel {
                     width: parent.width * 0.38
                     height: parent.height
+                    rows: picker.rows
                     model: picker.years
                     wrap: false
                     currentIndex: picker.yearIndex
@@ -161,9 +167,9 @@ QVEmailViewControllerBase {
             required property int index
             required property var modelData
             text: modelData
-            font.pixelSize: 17
+            font.pixelSize: Math.round(17 * QVDevice.textScale)
             color: theme.textPrimary
-            opacity: 1.0 - Math.abs(Tumbler.displacement) / 3
+            opacity: 1.0 - Math.abs(Tumbler.displacement) / ((picker.rows + 1) / 2)
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
         }

@@ -44,12 +44,14 @@ QVEnterCommentViewBase {
             anchors.topMargin: 6
             leftPadding: 0
             rightPadding: 0
-            font.pixelSize: 16
+            font.pixelSize: Math.round(16 * QVDevice.textScale)
             color: theme.textPrimary
-            placeholderText: qsTr("Tell us what happened")
-            placeholderTextColor: theme.textSecondary
             wrapMode: TextEdit.Wrap
             selectByMouse: true
+            FieldHint {
+                field: area
+                text: qsTr("Tell us what happened")
+            }
             // Set by the form when sending found the message missing.
             property string errorText
             readonly property bool inError: view.commentIconName.endsWith("_error")
@@ -82,7 +84,7 @@ QVEnterCommentViewBase {
             anchors.rightMargin: 14
             anchors.bottomMargin: 10
             text: view.counterText
-            font.pixelSize: 13
+            font.pixelSize: Math.round(13 * QVDevice.textScale)
             color: theme.textSecondary
             Accessible.role: Accessible.StaticText
             Accessible.name: qsTr("%1 characters left").arg(text)

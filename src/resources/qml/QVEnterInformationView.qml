@@ -14,7 +14,8 @@ QVEnterInformationViewBase {
     nameIcon: nameIconImage
     emailIcon: emailIconImage
 
-    height: 130
+    // Two fields as tall as a finger or their text, and the card around them.
+    height: 42 + name.height + email.height
 
     FormCard {
         id: card
@@ -43,8 +44,8 @@ QVEnterInformationViewBase {
             anchors.leftMargin: 12
             anchors.rightMargin: 12
             y: 8
-            height: 40
-            placeholderText: qsTr("Your name")
+            height: Math.max(44, implicitHeight)
+            hint: qsTr("Your name")
             label: qsTr("Name")
             inError: view.nameIconName.endsWith("_error")
             onTextEdited: view.fieldWillChange(name)
@@ -78,9 +79,9 @@ QVEnterInformationViewBase {
             anchors.rightMargin: 12
             anchors.bottom: parent.bottom
             anchors.bottomMargin: 8
-            height: 40
+            height: Math.max(44, implicitHeight)
             color: view.emailShowsError ? theme.error : theme.textPrimary
-            placeholderText: qsTr("Email address")
+            hint: qsTr("Email address")
             inputMethodHints: Qt.ImhEmailCharactersOnly | Qt.ImhNoAutoUppercase
             label: qsTr("Email")
             inError: view.emailIconName.endsWith("_error")

@@ -11,7 +11,7 @@ QVEnterOfferTitleViewBase {
     offerNameField: field
     nameIcon: icon
 
-    height: 68
+    height: 24 + field.height
 
     FormCard {
         anchors.fill: parent
@@ -39,8 +39,8 @@ QVEnterOfferTitleViewBase {
             anchors.leftMargin: 12
             anchors.rightMargin: 12
             anchors.verticalCenter: parent.verticalCenter
-            height: 40
-            placeholderText: qsTr("Name of the offer")
+            height: Math.max(44, implicitHeight)
+            hint: qsTr("Name of the offer")
             label: qsTr("Offer")
             inError: view.nameIconName.endsWith("_error")
             onTextEdited: view.fieldWillChange(field)

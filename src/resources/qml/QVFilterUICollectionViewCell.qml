@@ -44,9 +44,12 @@ QVFilterUICollectionViewCellBase {
         anchors.leftMargin: 20
         anchors.rightMargin: 8
         text: cell.title
-        font.pixelSize: 16
+        font.pixelSize: Math.round(16 * QVDevice.textScale)
         font.bold: cell.selected
         color: theme.textPrimary
+        // A large text takes a second line; the row has room for it.
+        wrapMode: Text.WordWrap
+        maximumLineCount: 2
         elide: Text.ElideRight
     }
     QVIconImage {

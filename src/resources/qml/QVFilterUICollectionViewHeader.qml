@@ -26,7 +26,7 @@ QVFilterUICollectionViewHeaderBase {
         anchors.bottomMargin: 8
         text: header.title
         font.capitalization: Font.AllUppercase
-        font.pixelSize: 13
+        font.pixelSize: Math.round(13 * QVDevice.textScale)
         font.bold: true
         font.letterSpacing: 0.8
         color: theme.accent

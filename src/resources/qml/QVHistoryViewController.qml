@@ -45,7 +45,7 @@ QVHistoryViewControllerBase {
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.WordWrap
         text: qsTr("No offers completed yet")
-        font.pixelSize: 19
+        font.pixelSize: Math.round(19 * QVDevice.textScale)
         font.bold: true
         color: theme.textPrimary
     }
@@ -58,7 +58,7 @@ QVHistoryViewControllerBase {
         width: Math.min(history.width - 48, 300)
         visible: empty.visible
         text: qsTr("Offers you complete show up here once they are credited.")
-        font.pixelSize: 15
+        font.pixelSize: Math.round(15 * QVDevice.textScale)
         color: theme.textSecondary
         wrapMode: Text.WordWrap
         horizontalAlignment: Text.AlignHCenter

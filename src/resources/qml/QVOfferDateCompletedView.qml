@@ -11,9 +11,12 @@ QVOfferDateCompletedViewBase {
     dateBtn: button
     dateIcon: icon
 
-    height: 76
+    // A label too long to sit beside the button (a large text) goes above it.
+    readonly property bool stacked: label.implicitWidth > card.width - 58 - button.width - 18
+    height: stacked ? label.implicitHeight + button.implicitHeight + 44 : Math.max(label.implicitHeight, button.implicitHeight) + 32
 
     FormCard {
+        id: card
         anchors.fill: parent
         anchors.margins: 12
         anchors.topMargin: 6
@@ -24,7 +27,7 @@ QVOfferDateCompletedViewBase {
             objectName: "dateIcon"
             anchors.left: parent.left
             anchors.leftMargin: 14
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.verticalCenter: view.stacked ? label.verticalCenter : parent.verticalCenter
             width: 24
             height: 24
             source: "icons/" + view.dateIconName
@@ -34,10 +37,14 @@ QVOfferDateCompletedViewBase {
             id: label
             horizontalAlignment: Text.AlignLeft
             anchors.left: icon.right
+            anchors.right: view.stacked ? parent.right : button.left
             anchors.leftMargin: 12
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.rightMargin: view.stacked ? 10 : 8
+            anchors.verticalCenter: view.stacked ? undefined : parent.verticalCenter
+            y: 12
+            wrapMode: Text.WordWrap
             text: qsTr("Completed on")
-            font.pixelSize: 16
+            font.pixelSize: Math.round(16 * QVDevice.textScale)
             color: theme.textSecondary
         }
         Button {
@@ -45,9 +52,11 @@ QVOfferDateCompletedViewBase {
             objectName: "dateBtn"
             anchors.right: parent.right
             anchors.rightMargin: 10
-            anchors.verticalCenter: parent.verticalCenter
-            implicitWidth: 118
-            implicitHeight: 40
+            anchors.verticalCenter: view.stacked ? undefined : parent.verticalCenter
+            anchors.bottom: view.stacked ? parent.bottom : undefined
+            anchors.bottomMargin: 12
+            implicitWidth: Math.max(118, implicitContentWidth + 20)
+            implicitHeight: Math.max(44, implicitContentHeight + topPadding + bottomPadding)
             text: view.placeholder
             // Set by the form when sending found no date.
             property string errorText
@@ -68,7 +77,7 @@ QVOfferDateCompletedViewBase {
             contentItem: Text {
                 Accessible.ignored: true
                 text: button.text
-                font.pixelSize: 16
+                font.pixelSize: Math.round(16 * QVDevice.textScale)
                 font.bold: true
                 color: theme.accent
                 horizontalAlignment: Text.AlignHCenter

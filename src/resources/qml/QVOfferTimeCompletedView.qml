@@ -13,7 +13,8 @@ QVOfferTimeCompletedViewBase {
     yesCheckmark: yes.checkmark
     noCheckmark: no.checkmark
 
-    height: 172
+    // Grows with its texts: a large text, a long language.
+    height: Math.max(172, 32 + question.implicitHeight + yes.height + no.height)
 
     FormCard {
         anchors.fill: parent
@@ -29,7 +30,7 @@ QVOfferTimeCompletedViewBase {
             y: 14
             width: parent.width - 32
             text: qsTr("Has it been more than 24 hours since you completed the offer?")
-            font.pixelSize: 15
+            font.pixelSize: Math.round(15 * QVDevice.textScale)
             font.bold: true
             color: theme.textPrimary
             wrapMode: Text.Wrap

@@ -85,7 +85,7 @@ QVOfferUICollectionViewCellBase {
                 horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: cell.offerName
-                font.pixelSize: 17
+                font.pixelSize: Math.round(17 * QVDevice.textScale)
                 font.bold: true
                 color: theme.textPrimary
                 elide: Text.ElideRight
@@ -96,7 +96,7 @@ QVOfferUICollectionViewCellBase {
                 horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: cell.offerDescription
-                font.pixelSize: 14
+                font.pixelSize: Math.round(14 * QVDevice.textScale)
                 color: theme.textSecondary
                 wrapMode: Text.WordWrap
                 maximumLineCount: 3
@@ -113,7 +113,7 @@ QVOfferUICollectionViewCellBase {
             anchors.verticalCenter: parent.verticalCenter
             anchors.rightMargin: 12
             width: Math.max(76, payout.implicitWidth + 24)
-            height: 38
+            height: Math.max(38, payout.implicitHeight + 8)
             radius: cell.cornerRadius
             border.width: cell.borderWidth
             border.color: cell.borderColor
@@ -126,7 +126,7 @@ QVOfferUICollectionViewCellBase {
                 id: payout
                 anchors.centerIn: parent
                 text: credits.text
-                font.pixelSize: 16
+                font.pixelSize: Math.round(16 * QVDevice.textScale)
                 font.bold: true
                 color: theme.payoutText
             }

@@ -77,7 +77,7 @@ QVOffersViewControllerBase {
             maximumLineCount: 2
             fontSizeMode: Text.Fit
             minimumPixelSize: 11
-            font.pixelSize: 18
+            font.pixelSize: Math.round(18 * QVDevice.textScale)
             font.bold: true
             color: theme.headerText
             elide: Text.ElideRight
@@ -193,7 +193,7 @@ QVOffersViewControllerBase {
         }
         Text {
             text: qsTr("Loading offers…")
-            font.pixelSize: 15
+            font.pixelSize: Math.round(15 * QVDevice.textScale)
             color: theme.textSecondary
         }
     }
@@ -211,7 +211,7 @@ QVOffersViewControllerBase {
         Accessible.name: text + " " + emptyDetail.text
         Accessible.ignored: !visible || root.contentHidden
         text: qsTr("No offers right now")
-        font.pixelSize: 19
+        font.pixelSize: Math.round(19 * QVDevice.textScale)
         font.bold: true
         color: theme.textPrimary
     }
@@ -223,7 +223,7 @@ QVOffersViewControllerBase {
         width: Math.min(list.width - 48, 300)
         visible: emptyLabel.visible
         text: qsTr("New ways to earn arrive often. Check back soon.")
-        font.pixelSize: 15
+        font.pixelSize: Math.round(15 * QVDevice.textScale)
         color: theme.textSecondary
         wrapMode: Text.WordWrap
         horizontalAlignment: Text.AlignHCenter
@@ -245,7 +245,7 @@ QVOffersViewControllerBase {
             width: parent.width
             text: qsTr("Couldn't load offers")
             wrapMode: Text.WordWrap
-            font.pixelSize: 19
+            font.pixelSize: Math.round(19 * QVDevice.textScale)
             font.bold: true
             color: theme.textPrimary
             horizontalAlignment: Text.AlignHCenter
@@ -254,7 +254,7 @@ QVOffersViewControllerBase {
             id: failedDetail
             width: parent.width
             text: qsTr("Check your connection and try again.")
-            font.pixelSize: 15
+            font.pixelSize: Math.round(15 * QVDevice.textScale)
             color: theme.textSecondary
             wrapMode: Text.WordWrap
             horizontalAlignment: Text.AlignHCenter
@@ -300,7 +300,7 @@ QVOffersViewControllerBase {
             anchors.leftMargin: 16
             anchors.rightMargin: 16
             text: root.creditNoticeText
-            font.pixelSize: 19
+            font.pixelSize: Math.round(19 * QVDevice.textScale)
             font.bold: true
             color: theme.payoutText
             horizontalAlignment: Text.AlignHCenter
@@ -312,7 +312,7 @@ QVOffersViewControllerBase {
             anchors.left: noticeText.left
             anchors.right: noticeText.right
             text: root.creditNoticeDetail
-            font.pixelSize: 14
+            font.pixelSize: Math.round(14 * QVDevice.textScale)
             color: theme.payoutText
             horizontalAlignment: Text.AlignHCenter
             elide: Text.ElideRight

@@ -57,7 +57,7 @@ QVQACollectionViewCellBase {
                 y: cell.padding
                 width: parent.width - 2 * cell.padding - cell.accessoryWidth
                 text: cell.question
-                font.pixelSize: cell.questionPixelSize
+                font.pixelSize: Math.round(cell.questionPixelSize * QVDevice.textScale)
                 font.bold: true
                 color: theme.accent
                 wrapMode: Text.Wrap
@@ -81,7 +81,7 @@ QVQACollectionViewCellBase {
                 y: questionText.y + questionText.height + cell.spacing
                 width: parent.width - 2 * cell.padding
                 text: cell.answer
-                font.pixelSize: cell.answerPixelSize
+                font.pixelSize: Math.round(cell.answerPixelSize * QVDevice.textScale)
                 color: theme.textSecondary
                 wrapMode: Text.Wrap
             }

@@ -55,7 +55,7 @@ QVQuestionCollectionViewCellBase {
                 anchors.bottomMargin: 6
                 verticalAlignment: Text.AlignVCenter
                 text: cell.question
-                font.pixelSize: 16
+                font.pixelSize: Math.round(16 * QVDevice.textScale)
                 font.bold: true
                 color: theme.textPrimary
                 wrapMode: Text.Wrap

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: Apache-2.0
 
 import QtQuick
+import QuorvaMedia
 import QtQuick.Controls.Basic
 
 // The support centre on a tablet. A tap outside does not close it, so it carries its
@@ -24,7 +25,7 @@ QVPopover {
             Accessible.name: text
             Accessible.ignored: !visible || overlayHidden
             text: qsTr("Corvel Support")
-            font.pixelSize: 16
+            font.pixelSize: Math.round(16 * QVDevice.textScale)
             font.bold: true
             color: theme.textPrimary
         }
@@ -33,7 +34,11 @@ QVPopover {
             objectName: "supportCloseBtn"
             anchors.right: parent.right
             anchors.top: parent.top
-            anchors.margins: 4
+            // A finger's size around a 36-point circle.
+            topInset: 4
+            bottomInset: 4
+            leftInset: 4
+            rightInset: 4
             icon.source: "icons/close.svg"
             icon.color: theme.textSecondary
             icon.width: 20

@@ -43,7 +43,7 @@ QVSupportSendButtonViewBase {
         contentItem: Text {
             Accessible.ignored: true
             text: send.text
-            font.pixelSize: 17
+            font.pixelSize: Math.round(17 * QVDevice.textScale)
             font.bold: true
             color: theme.card
             horizontalAlignment: Text.AlignHCenter

@@ -26,8 +26,11 @@ QVSupportViewControllerBase {
         anchors.top: parent.top
         anchors.leftMargin: 16
         anchors.rightMargin: 16
-        anchors.topMargin: 9
-        height: 34
+        // Tabs as tall as a finger, drawn as a 34-point segmented control.
+        anchors.topMargin: 2
+        height: 48
+        topInset: 7
+        bottomInset: 7
         // Its width comes from its anchors; its tabs' text fits itself to that width.
         implicitWidth: 0
         padding: 2
@@ -46,7 +49,9 @@ QVSupportViewControllerBase {
                 id: segment
                 required property string modelData
                 text: modelData
-                height: 30
+                height: 44
+                topInset: 7
+                bottomInset: 7
                 // A tab of a tab list: the chosen one is selected, as a screen reader expects.
                 Accessible.role: Accessible.PageTab
                 Accessible.name: modelData
@@ -70,7 +75,7 @@ QVSupportViewControllerBase {
                 contentItem: Text {
                     Accessible.ignored: true
                     text: segment.text
-                    font.pixelSize: 14
+                    font.pixelSize: Math.round(14 * QVDevice.textScale)
                     font.bold: segment.checked
                     // A long tab name takes two lines and gets smaller rather than cut.
                     wrapMode: Text.Wrap
@@ -102,7 +107,7 @@ QVSupportViewControllerBase {
         leftPadding: 14
         rightPadding: 14
         wrapMode: Text.Wrap
-        font.pixelSize: 14
+        font.pixelSize: Math.round(14 * QVDevice.textScale)
         font.bold: true
         color: theme.card
         // Read through the alert below: a label keeps the role of a label.

@@ -80,7 +80,7 @@ QVTransactionCollectionViewCellBase {
                 horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: cell.offerName
-                font.pixelSize: 17
+                font.pixelSize: Math.round(17 * QVDevice.textScale)
                 font.bold: true
                 color: theme.textPrimary
                 elide: Text.ElideRight
@@ -91,7 +91,7 @@ QVTransactionCollectionViewCellBase {
                 horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: cell.timestamp
-                font.pixelSize: 13
+                font.pixelSize: Math.round(13 * QVDevice.textScale)
                 color: theme.textSecondary
             }
             Label {
@@ -99,7 +99,7 @@ QVTransactionCollectionViewCellBase {
                 objectName: "statusLabel"
                 Accessible.ignored: true // the row says it
                 text: qsTr("Credited")
-                font.pixelSize: 12
+                font.pixelSize: Math.round(12 * QVDevice.textScale)
                 font.bold: true
                 color: theme.payoutText
                 leftPadding: 8
@@ -119,7 +119,7 @@ QVTransactionCollectionViewCellBase {
             anchors.rightMargin: 16
             anchors.verticalCenter: parent.verticalCenter
             text: cell.payout
-            font.pixelSize: 20
+            font.pixelSize: Math.round(20 * QVDevice.textScale)
             font.bold: true
             color: theme.payoutButton
         }

@@ -46,7 +46,7 @@ QVUnableToAssistBase {
                 horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: qsTr("Rewards can take up to 24 hours")
-                font.pixelSize: 15
+                font.pixelSize: Math.round(15 * QVDevice.textScale)
                 font.bold: true
                 color: theme.textPrimary
                 wrapMode: Text.Wrap
@@ -56,7 +56,7 @@ QVUnableToAssistBase {
                 horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: qsTr("Please check back tomorrow; we can't look into it sooner.")
-                font.pixelSize: 13
+                font.pixelSize: Math.round(13 * QVDevice.textScale)
                 color: theme.textSecondary
                 wrapMode: Text.Wrap
             }

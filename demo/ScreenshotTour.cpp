@@ -27,12 +27,14 @@ int ScreenshotTour::run()
         camera.fail(QStringLiteral("the preload did not become ready"));
 
     // Every screen in the wall's own look, then dark, then derived from a yellow brand.
-    // And in German and in Arabic, which reads right to left.
+    // And in German and in Arabic, which reads right to left; and with the largest text.
     const Look looks[] = {{std::nullopt, QString()},
                           {QVTheme::dark(), QStringLiteral("-dark")},
                           {QVTheme::fromBrandColor(QColor(0xFF, 0xD4, 0x00)), QStringLiteral("-brand")},
                           {std::nullopt, QStringLiteral("-de"), QLocale(QLocale::German, QLocale::Germany)},
-                          {std::nullopt, QStringLiteral("-ar"), QLocale(QLocale::Arabic, QLocale::Egypt)}};
+                          {std::nullopt, QStringLiteral("-ar"), QLocale(QLocale::Arabic, QLocale::Egypt)},
+                          {std::nullopt, QStringLiteral("-large"), QLocale(QLocale::English, QLocale::UnitedStates),
+                           QVDevice::kMaximumTextScale}};
     for (const Look &look : looks) {
         setLook(look);
         renderScreens(camera);

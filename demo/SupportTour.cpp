@@ -88,12 +88,15 @@ void runSupportTour(Camera &camera, SandboxProcess &sandbox)
     showTab(support, QVSupportViewController::FormTab);
     QVEmailViewController *form = support->emailViewController();
     QQuickWindow *window = scene->window.get();
+    reveal(form, form->chooseSubjectView()->notCreditBtn());
     tap(window, form->chooseSubjectView()->notCreditBtn());
     camera.shoot(*scene, QStringLiteral("phone-support-form-state1"), [&] { return formInState(form, 1); });
 
+    reveal(form, form->offerTimeCompleted()->noButton());
     tap(window, form->offerTimeCompleted()->noButton());
     camera.shoot(*scene, QStringLiteral("phone-support-form-state3"), [&] { return formInState(form, 3); });
 
+    reveal(form, form->offerTimeCompleted()->yesButton());
     tap(window, form->offerTimeCompleted()->yesButton());
     camera.shoot(*scene, QStringLiteral("phone-support-form-state2"), [&] { return formInState(form, 2); });
 
@@ -111,6 +114,7 @@ void runSupportTour(Camera &camera, SandboxProcess &sandbox)
     type(window, form->enterCommentView()->commentInputField(),
          QStringLiteral("I reached level 10 on Saturday but the gems never arrived."));
     form->uiDatePicker()->setProperty("date", QDate::currentDate().addDays(-2));
+    reveal(form, form->offerDateCompletedView()->dateBtn());
     tap(window, form->offerDateCompletedView()->dateBtn());
     camera.shoot(*scene, QStringLiteral("phone-support-date-picker"), [&] {
         // Each wheel has turned to the date: its current row sits in its middle.

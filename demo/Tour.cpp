@@ -26,6 +26,7 @@ void setLook(const Look &look)
 {
     g_look = look;
     QLocale::setDefault(look.locale);
+    QVDevice::setTextScale(look.textScale);
 }
 
 bool spinUntil(const std::function<bool()> &condition)

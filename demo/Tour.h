@@ -26,6 +26,7 @@ struct Look
     std::optional<QVTheme> theme; // none: the wall follows the system
     QString suffix;
     QLocale locale{QLocale::English, QLocale::UnitedStates}; // the host's default when a wall is made
+    qreal textScale = QVDevice::kMinimumTextScale;
 };
 void setLook(const Look &look);
 

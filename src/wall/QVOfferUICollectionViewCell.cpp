@@ -2,10 +2,19 @@
 // SPDX-License-Identifier: Apache-2.0
 
 #include "QVOfferUICollectionViewCell.h"
+#include "QVDevice.h"
 #include "QVImageView.h"
 
 
-QVOfferUICollectionViewCell::QVOfferUICollectionViewCell(QQuickItem *parent) : QQuickItem(parent) {}
+QVOfferUICollectionViewCell::QVOfferUICollectionViewCell(QQuickItem *parent) : QQuickItem(parent)
+{
+    connect(QVDevice::instance(), &QVDevice::textScaleChanged, this, &QVOfferUICollectionViewCell::payoutBelowTextChanged);
+}
+
+bool QVOfferUICollectionViewCell::payoutBelowText()
+{
+    return QVDevice::textScale() >= kPayoutBelowTextScale;
+}
 
 void QVOfferUICollectionViewCell::setRow(int row)
 {

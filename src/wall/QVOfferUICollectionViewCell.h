@@ -62,6 +62,9 @@ class QUORVAMEDIA_EXPORT QVOfferUICollectionViewCell : public QQuickItem
     Q_PROPERTY(QColor borderColor READ borderColor CONSTANT FINAL)
     /// The space around the card inside the cell, in points.
     Q_PROPERTY(qreal cardInset READ cardInset CONSTANT FINAL)
+    /// True from a text scale of #kPayoutBelowTextScale: the payout button goes under the
+    /// texts, which then take the card's whole width.
+    Q_PROPERTY(bool payoutBelowText READ payoutBelowText NOTIFY payoutBelowTextChanged FINAL)
 
 public:
     /// An empty cell; the wall's list builds and reuses them.
@@ -71,6 +74,12 @@ public:
     static QString identifier() { return QStringLiteral("QVOfferUICollectionViewCell"); }
     /// The cell's height in one column, in points.
     static double cellHeight() { return 120.0; }
+    /// The text scale from which the payout button goes under the texts.
+    static constexpr qreal kPayoutBelowTextScale = 1.5;
+    /// The height the payout button's own row adds then, in points.
+    static constexpr qreal kPayoutRowHeight = 56;
+    /// See #payoutBelowText.
+    static bool payoutBelowText();
     ///@{
     /// See the properties of the same names.
     static qreal cornerRadius() { return 6.0; }
@@ -124,6 +133,7 @@ signals:
     void offerDescriptionChanged();
     void payoutTitleChanged();
     void outletsChanged();
+    void payoutBelowTextChanged();
     ///@}
 
 protected:

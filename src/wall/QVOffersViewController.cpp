@@ -177,9 +177,10 @@ QSizeF QVOffersViewController::sizeForItem(qreal viewWidth)
 {
     // The name and three lines of task take 80 points of a cell; they grow with the text.
     constexpr qreal kTextPart = 80;
+    const qreal payoutRow = QVOfferUICollectionViewCell::payoutBelowText() ? QVOfferUICollectionViewCell::kPayoutRowHeight : 0;
     if (viewWidth > kTwoColumnMinimumWidth)
-        return {viewWidth * 0.5, quorva::detail::grownWithText(150, kTextPart)};
-    return {viewWidth, quorva::detail::grownWithText(140, kTextPart)};
+        return {viewWidth * 0.5, quorva::detail::grownWithText(150, kTextPart) + payoutRow};
+    return {viewWidth, quorva::detail::grownWithText(140, kTextPart) + payoutRow};
 }
 
 QAbstractItemModel *QVOffersViewController::offersModel() const { return d_func()->m_offers; }

@@ -64,7 +64,7 @@ QVOfferUICollectionViewCellBase {
             id: thumb
             objectName: "thumbImage"
             anchors.left: parent.left
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.verticalCenter: cell.payoutBelowText ? texts.verticalCenter : parent.verticalCenter
             anchors.leftMargin: 12
             width: Math.min(parent.height - 24, 96)
             height: width
@@ -72,9 +72,12 @@ QVOfferUICollectionViewCellBase {
         }
 
         Column {
+            id: texts
             anchors.left: thumb.right
-            anchors.right: credits.left
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.right: cell.payoutBelowText ? parent.right : credits.left
+            anchors.verticalCenter: cell.payoutBelowText ? undefined : parent.verticalCenter
+            anchors.top: cell.payoutBelowText ? parent.top : undefined
+            anchors.topMargin: 12
             anchors.leftMargin: 14
             anchors.rightMargin: 12
             spacing: 4
@@ -110,8 +113,10 @@ QVOfferUICollectionViewCellBase {
             objectName: "creditsBtn"
             property string text: cell.payoutTitle
             anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.verticalCenter: cell.payoutBelowText ? undefined : parent.verticalCenter
+            anchors.bottom: cell.payoutBelowText ? parent.bottom : undefined
             anchors.rightMargin: 12
+            anchors.bottomMargin: 12
             width: Math.max(76, payout.implicitWidth + 24)
             height: Math.max(38, payout.implicitHeight + 8)
             radius: cell.cornerRadius

@@ -49,9 +49,12 @@ QVSupportViewControllerBase {
                 id: segment
                 required property string modelData
                 text: modelData
-                height: 44
+                implicitHeight: 44
                 topInset: 7
                 bottomInset: 7
+                // The text stays inside the drawn segment, smaller if it must.
+                topPadding: 9
+                bottomPadding: 9
                 // A tab of a tab list: the chosen one is selected, as a screen reader expects.
                 Accessible.role: Accessible.PageTab
                 Accessible.name: modelData

@@ -208,6 +208,37 @@ private slots:
         QVERIFY(textOf(harness.find(QStringLiteral("headerTitle"))).startsWith(QStringLiteral("اربح")));
     }
 
+    // A host's text size reaches walls already open: rows grow, the payout button moves
+    // under the texts, and a value out of range is brought into it.
+    void textScaleReachesOpenWalls()
+    {
+        SupportHarness harness;
+        QVERIFY(harness.show());
+        QTRY_VERIFY(!harness.cells().isEmpty());
+        QVOfferUICollectionViewCell *cell = harness.cells().first();
+        auto *name = cell->property("nameLabel").value<QQuickItem *>();
+        const qreal rowHeight = cell->height();
+        const int namePixels = name->property("font").value<QFont>().pixelSize();
+        QVERIFY(!cell->property("payoutBelowText").toBool());
+        QSignalSpy changed(QVDevice::instance(), &QVDevice::textScaleChanged);
+        const auto reset = qScopeGuard([] { QVDevice::setTextScale(1.0); });
+
+        QVDevice::setTextScale(3.5);
+        QCOMPARE(QVDevice::textScale(), QVDevice::kMaximumTextScale);
+        QVDevice::setTextScale(qQNaN());
+        QVDevice::setTextScale(QVDevice::kMaximumTextScale);
+        QCOMPARE(changed.count(), 1);
+        QTRY_COMPARE(name->property("font").value<QFont>().pixelSize(), 2 * namePixels);
+        QTRY_VERIFY(cell->height() > rowHeight + QVOfferUICollectionViewCell::kPayoutRowHeight);
+        QVERIFY(cell->property("payoutBelowText").toBool());
+        QVERIFY(cell->creditsBtn()->mapToItem(cell, QPointF()).y()
+                > name->mapToItem(cell, QPointF(0, name->height())).y());
+
+        QVDevice::setTextScale(0.5);
+        QCOMPARE(QVDevice::textScale(), QVDevice::kMinimumTextScale);
+        QTRY_COMPARE(cell->height(), rowHeight);
+    }
+
     // The pseudo-language, then every real one.
     void pseudoLanguageClipsNothing_data()
     {

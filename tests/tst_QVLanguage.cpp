@@ -305,7 +305,7 @@ private slots:
         harness.wall->onRetryPressed();
         QTRY_VERIFY(harness.wall->offerCount() > 0);
         QTRY_VERIFY(watcher.hasBaseline());
-        m_service.setHistory(200, R"({"transactions":[{"offer_name":"Sky Quest","currency_adjustment":1500}]})");
+        m_service.setHistory(200, FakeOfferService::historyOf(QStringLiteral("Sky Quest:1500")));
         watcher.checkNow();
         QTRY_VERIFY(harness.wall->creditNoticeShown());
         VERIFY_TEXTS_READ_WELL(harness);

@@ -6,6 +6,7 @@
 #include "AssignIfChanged.h"
 #include "DeviceIdiom.h"
 #include "QVDevice.h"
+#include "QVOfferUICollectionViewCell.h"
 #include "QVPayoutFormatter.h"
 #include "QVTransactionsListModel.h"
 #include "QuorvaRestAPI.h"
@@ -23,8 +24,15 @@ QVHistoryViewController::QVHistoryViewController(QQuickItem *parent)
 
 qreal QVHistoryViewController::itemHeight()
 {
-    // The name, the date and the status stacked: 70 points of the 130.
-    return quorva::detail::grownWithText(130, 70);
+    // The name, the date and the status stacked: 70 points of the 130; the amount's own
+    // row under them when it moves there.
+    constexpr qreal kAmountRow = 48;
+    return quorva::detail::grownWithText(130, 70) + (payoutBelowText() ? kAmountRow : 0);
+}
+
+bool QVHistoryViewController::payoutBelowText()
+{
+    return QVDevice::textScale() >= QVOfferUICollectionViewCell::kPayoutBelowTextScale;
 }
 
 QVHistoryViewController::~QVHistoryViewController() = default;

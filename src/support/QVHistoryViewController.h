@@ -32,6 +32,9 @@ class QUORVAMEDIA_EXPORT QVHistoryViewController : public QQuickItem
     Q_PROPERTY(bool isLoading READ isLoading NOTIFY isLoadingChanged FINAL)
     /// A row's height, in points.
     Q_PROPERTY(qreal itemHeight READ itemHeight NOTIFY itemHeightChanged FINAL)
+    /// True when the text is large enough that a row's amount goes under its texts, as
+    /// an offer's payout button does (QVOfferUICollectionViewCell::payoutBelowText).
+    Q_PROPERTY(bool payoutBelowText READ payoutBelowText NOTIFY itemHeightChanged FINAL)
     /// The space above the first row, in points.
     Q_PROPERTY(qreal sectionInsetTop READ sectionInsetTop CONSTANT FINAL)
 
@@ -45,6 +48,7 @@ public:
     ///@{
     /// See the properties of the same names.
     static qreal itemHeight();
+    static bool payoutBelowText();
     static qreal sectionInsetTop() { return 5; }
     ///@}
 

@@ -30,6 +30,7 @@ QVHistoryViewControllerBase {
             required payout
             width: ListView.view.width
             height: history.itemHeight
+            payoutBelowText: history.payoutBelowText
         }
     }
 

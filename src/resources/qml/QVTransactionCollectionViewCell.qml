@@ -11,6 +11,7 @@ QVTransactionCollectionViewCellBase {
     property string offerName
     property string timestamp
     property string payout
+    property bool payoutBelowText: false
 
     payoutLabel: payoutText
     statusLabel: status
@@ -69,10 +70,11 @@ QVTransactionCollectionViewCellBase {
 
         Column {
             anchors.left: marker.right
-            anchors.right: payoutText.left
+            anchors.right: cell.payoutBelowText ? parent.right : payoutText.left
             anchors.leftMargin: 16
-            anchors.rightMargin: 12
+            anchors.rightMargin: cell.payoutBelowText ? 16 : 12
             anchors.verticalCenter: parent.verticalCenter
+            anchors.verticalCenterOffset: cell.payoutBelowText ? -payoutText.height / 2 : 0
             spacing: 6
             Text {
                 id: name
@@ -91,6 +93,7 @@ QVTransactionCollectionViewCellBase {
                 horizontalAlignment: Text.AlignLeft
                 width: parent.width
                 text: cell.timestamp
+                wrapMode: Text.Wrap
                 font.pixelSize: Math.round(13 * QVDevice.textScale)
                 color: theme.textSecondary
             }
@@ -117,7 +120,9 @@ QVTransactionCollectionViewCellBase {
             objectName: "payoutLabel"
             anchors.right: parent.right
             anchors.rightMargin: 16
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.verticalCenter: cell.payoutBelowText ? undefined : parent.verticalCenter
+            anchors.bottom: cell.payoutBelowText ? parent.bottom : undefined
+            anchors.bottomMargin: 14
             text: cell.payout
             font.pixelSize: Math.round(20 * QVDevice.textScale)
             font.bold: true

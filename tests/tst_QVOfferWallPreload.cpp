@@ -245,6 +245,12 @@ private slots:
         QVERIFY(wall->isRightToLeft());
         wall->setProperty("language", QString());
         QCOMPARE(title->property("text").toString(), QStringLiteral("Earn Gems"));
+        // So does a larger text, set from the document.
+        const qreal rowHeight = wall->cellSize().height();
+        const auto normalText = qScopeGuard([] { QVDevice::setTextScale(1.0); });
+        QVERIFY(QMetaObject::invokeMethod(root.get(), "enlargeText"));
+        QCOMPARE(QVDevice::textScale(), 2.0);
+        QTRY_VERIFY(wall->cellSize().height() > rowHeight);
 
         // A phone-sized window gets the phone's support centre whatever the screen, and its
         // button closes it again.
@@ -292,6 +298,7 @@ const char tst_QVOfferWallPreload::kWallDocument[] = R"(
     Item {
         width: 390; height: 844
         property int closes: 0
+        function enlargeText() { QVDevice.textScale = 2 }
         QVCreditsWatcher { id: watcher; objectName: "watcher"; active: true
                            pubId: "1042"; corvelId: "7"; subId1: "user-1" }
         QVOffersViewController {

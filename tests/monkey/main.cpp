@@ -185,9 +185,10 @@ private:
 
     void click(QQuickItem *item)
     {
-        const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
-        if (QRectF(0, 0, m_window.width(), m_window.height()).contains(centre))
-            QTest::mouseClick(&m_window, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
+        // A pixel of the window: an item centred on its lower or right edge is not tapped.
+        const QPoint centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
+        if (QRect(QPoint(), m_window.size()).contains(centre))
+            QTest::mouseClick(&m_window, Qt::LeftButton, Qt::NoModifier, centre);
     }
 
     void act()

@@ -154,25 +154,16 @@ qreal QVEmailViewController::getMaximumHeight() const
 
 void QVEmailViewController::addPiece(QQuickItem *piece)
 {
-    if (piece && piece->parentItem() != d_func()->m_contentView)
+    if (piece && piece->parentItem() != d_func()->m_contentView) {
         piece->setParentItem(d_func()->m_contentView);
+        piece->setWidth(width());
+    }
 }
 
 void QVEmailViewController::removePiece(QQuickItem *piece)
 {
     if (piece && piece->parentItem() == d_func()->m_contentView)
         piece->setParentItem(nullptr);
-}
-
-void QVEmailViewController::place(QQuickItem *piece, QQuickItem *anchor, qreal height)
-{
-    if (!piece)
-        return;
-    const qreal top = anchor ? anchor->y() + anchor->height() : 0;
-    piece->setPosition({0, top});
-    piece->setWidth(width());
-    if (height >= 0)
-        piece->setHeight(height);
 }
 
 void QVEmailViewController::setUIState(int state)
@@ -188,15 +179,12 @@ void QVEmailViewController::setUIState(int state)
         addPiece(d_func()->m_enterInfoView);
         addPiece(d_func()->m_chooseSubjectView);
         addPiece(d_func()->m_sendButtonView);
-        place(d_func()->m_enterInfoView, nullptr);
-        place(d_func()->m_chooseSubjectView, d_func()->m_enterInfoView);
         d_func()->m_sendButtonView->setVisible(false);
         break;
     case NotCredited:
         removePiece(d_func()->m_enterCommentView);
         removePiece(d_func()->m_unableToAssistView);
         addPiece(d_func()->m_offerTimeCompleted);
-        place(d_func()->m_offerTimeCompleted, d_func()->m_chooseSubjectView);
         d_func()->m_offerTimeCompleted->clearSelection();
         d_func()->m_sendButtonView->setVisible(false);
         break;
@@ -205,10 +193,6 @@ void QVEmailViewController::setUIState(int state)
         addPiece(d_func()->m_offerDateCompletedView);
         addPiece(d_func()->m_enterOfferTitleView);
         addPiece(d_func()->m_enterCommentView);
-        place(d_func()->m_offerDateCompletedView, d_func()->m_offerTimeCompleted);
-        place(d_func()->m_enterOfferTitleView, d_func()->m_offerDateCompletedView);
-        place(d_func()->m_enterCommentView, d_func()->m_enterOfferTitleView);
-        place(d_func()->m_sendButtonView, d_func()->m_enterCommentView);
         d_func()->m_sendButtonView->setVisible(true);
         break;
     case NotCompleted:
@@ -217,7 +201,6 @@ void QVEmailViewController::setUIState(int state)
         removePiece(d_func()->m_enterCommentView);
         addPiece(d_func()->m_unableToAssistView);
         // The notice takes the send button's place and height.
-        place(d_func()->m_unableToAssistView, d_func()->m_offerTimeCompleted);
         fitUnableToAssist();
         d_func()->m_sendButtonView->setVisible(false);
         break;
@@ -228,15 +211,13 @@ void QVEmailViewController::setUIState(int state)
         removePiece(d_func()->m_enterOfferTitleView);
         removePiece(d_func()->m_unableToAssistView);
         addPiece(d_func()->m_enterCommentView);
-        place(d_func()->m_enterCommentView, d_func()->m_chooseSubjectView);
-        place(d_func()->m_sendButtonView, d_func()->m_enterCommentView);
         d_func()->m_sendButtonView->setVisible(true);
         break;
     default:
         break;
     }
+    restack();
     stackInReadingOrder();
-    updateContentSize();
 }
 
 // The notice takes the send button's place at the same height: the send piece grows to what

@@ -183,7 +183,6 @@ private:
     Q_DECL_HIDDEN Piece *loadPiece(const char *objectName);
     Q_DECL_HIDDEN void addPiece(QQuickItem *piece);
     Q_DECL_HIDDEN void removePiece(QQuickItem *piece);
-    Q_DECL_HIDDEN void place(QQuickItem *piece, QQuickItem *anchor, qreal height = -1);
     Q_DECL_HIDDEN void restack();
     Q_DECL_HIDDEN void stackInReadingOrder();
     Q_DECL_HIDDEN void fitUnableToAssist();
